@@ -1,0 +1,18 @@
+#include "../leaf.h"
+#include "quvex.h"
+
+namespace {
+
+template <class Unit>
+QUVEX_INLINE int32_t length(const Unit* string) {
+  if (!string) return 0;
+  const Unit* end = string;
+  QUVEX_UNROLL
+  while (*end) ++end;
+  return static_cast<int32_t>(end - string);
+}
+
+}  // namespace
+
+int32_t QUVEX_002014(const quvex_narrow* string) { return length(string); }
+int32_t QUVEX_002039(const quvex_wide* string) { return length(string); }

@@ -1,0 +1,15 @@
+#ifndef QUVEX_SRC_LEAF_H
+#define QUVEX_SRC_LEAF_H
+
+// A template is inlined into its exports at every level, so that each export is one section with all of its code.
+#define QUVEX_INLINE static inline __attribute__((always_inline))
+
+// Eight units a turn spare seven of eight branches back. At -Os compilers leave the loop as it stands.
+#define QUVEX_UNROLL _Pragma("GCC unroll 8")
+
+#if defined(__GNUC__) && !defined(__clang__)
+// GCC would turn plain loops into calls of memcpy and strlen, which are not ours to call.
+#pragma GCC optimize("no-tree-loop-distribute-patterns")
+#endif
+
+#endif
