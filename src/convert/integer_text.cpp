@@ -1,0 +1,52 @@
+#include "../leaf.h"
+#include "quvex.h"
+
+namespace {
+
+template <class Unit>
+QUVEX_INLINE Unit* to_text(int32_t value, Unit* destination, int32_t radix) {
+  if (!destination) return nullptr;
+  *destination = 0;
+  if (radix <= 0) return destination;
+  if (radix == 1 && value) return destination;  // No finite text.
+  const uint32_t base = static_cast<uint32_t>(radix);
+  // Negated as unsigned: the least integer has no positive twin.
+  uint32_t magnitude = value < 0 ? 0u - static_cast<uint32_t>(value) : static_cast<uint32_t>(value);
+  Unit* last = destination;
+  do {
+    const uint32_t digit = magnitude % base;
+    *last++ = static_cast<Unit>(digit < 10 ? '0' + digit : 'a' - 10 + digit);
+    magnitude /= base;
+  } while (magnitude);
+  if (value < 0) *last++ = '-';
+  *last = 0;
+  for (Unit* first = destination; first < --last; ++first) {
+    const Unit unit = *first;
+    *first = *last;
+    *last = unit;
+  }
+  return destination;
+}
+
+template <class Unit>
+QUVEX_INLINE int32_t to_integer(const Unit* source) {
+  if (!source) return 0;
+  while (*source == ' ' || *source == '\t') ++source;
+  const bool negative = *source == '-';
+  if (negative) ++source;
+  uint32_t number = 0;
+  for (uint32_t digit; (digit = *source - uint32_t{'0'}) < 10; ++source) number = number * 10 + digit;
+  return static_cast<int32_t>(negative ? 0 - number : number);
+}
+
+}  // namespace
+
+quvex_narrow* QUVEX_002003(int32_t value, quvex_narrow* destination, int32_t radix) {
+  return to_text(value, destination, radix);
+}
+quvex_wide* QUVEX_002004(int32_t value, quvex_wide* destination, int32_t radix) {
+  return to_text(value, destination, radix);
+}
+
+int32_t QUVEX_002000(const quvex_narrow* source) { return to_integer(source); }
+int32_t QUVEX_002053(const quvex_wide* source) { return to_integer(source); }
