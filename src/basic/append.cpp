@@ -1,0 +1,68 @@
+#include "../leaf.h"
+#include "quvex.h"
+
+namespace {
+
+template <class Unit>
+QUVEX_INLINE Unit* end_of(Unit* string) {
+  QUVEX_UNROLL
+  while (*string) ++string;
+  return string;
+}
+
+template <class Unit>
+QUVEX_INLINE void append_at_most(Unit* end, const Unit* source, int32_t room) {
+  for (; room > 0 && (*end = *source++); --room) ++end;
+  *end = 0;
+}
+
+template <class Unit>
+QUVEX_INLINE void append(Unit* destination, const Unit* source) {
+  if (!destination || !source) return;
+  Unit* end = end_of(destination);
+  while ((*end++ = *source++)) {
+  }
+}
+
+template <class Unit>
+QUVEX_INLINE void append_bounded(Unit* destination, int32_t size, const Unit* source) {
+  if (!destination || !source) return;
+  Unit* end = end_of(destination);
+  const int32_t used = static_cast<int32_t>(end - destination) + 1;
+  if (size <= used) return;
+  append_at_most(end, source, size - used);
+}
+
+QUVEX_INLINE void append_counted(quvex_wide* destination, const quvex_wide* source, int32_t count) {
+  if (!destination || !source) return;
+  append_at_most(end_of(destination), source, count);
+}
+
+QUVEX_INLINE void append_bounded_counted(quvex_wide* destination, int32_t size, const quvex_wide* source,
+                                         int32_t count) {
+  if (!destination || !source) return;
+  quvex_wide* end = end_of(destination);
+  const int32_t used = static_cast<int32_t>(end - destination) + 1;
+  if (size <= used) return;
+  append_at_most(end, source, count < size - used ? count : size - used);
+}
+
+}  // namespace
+
+void QUVEX_002005(quvex_narrow* destination, const quvex_narrow* source) { append(destination, source); }
+void QUVEX_002030(quvex_wide* destination, const quvex_wide* source) { append(destination, source); }
+
+void QUVEX_002006(quvex_narrow* destination, int32_t size, const quvex_narrow* source) {
+  append_bounded(destination, size, source);
+}
+void QUVEX_002031(quvex_wide* destination, int32_t size, const quvex_wide* source) {
+  append_bounded(destination, size, source);
+}
+
+void QUVEX_002041(quvex_wide* destination, const quvex_wide* source, int32_t count) {
+  append_counted(destination, source, count);
+}
+
+void QUVEX_002042(quvex_wide* destination, int32_t size, const quvex_wide* source, int32_t count) {
+  append_bounded_counted(destination, size, source, count);
+}
