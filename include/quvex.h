@@ -14,10 +14,12 @@
     - Null: every pointer may be null, with the result that is stated; the one exception is the string of trim.
     - Errors: there are none to report. Every argument that the caller may pass has a defined result.
     - Overlap: a destination must not overlap a source, unless the operation says what happens.
-    - Letters: `A` to `Z` (65 to 90) and `a` to `z` (97 to 122), tested on the whole value; folding adds or subtracts 32.
+    - Letters: `A` to `Z` (65 to 90) and `a` to `z` (97 to 122), tested on the whole value; folding adds or subtracts
+      32.
     - What is not mentioned is not touched: nothing is read past a terminator or a bound, and every destination unit
       that a contract does not name keeps its value.
-    - Reentrant, without state or allocation: two calls may run at once if they do not share a buffer that one writes. */
+    - Reentrant, without state or allocation: two calls may run at once if they do not share a buffer that one writes.
+      */
 #ifndef QUVEX_H
 #define QUVEX_H
 
@@ -29,7 +31,7 @@ typedef uint8_t quvex_narrow;
 /** A code unit of a wide string: 0 to 65535, 16 bits on every target. */
 typedef uint16_t quvex_wide;
 
-/* An attribute, not `noexcept`: that is part of the type, and other declarations of these names must stay compatible. */
+/* An attribute, not `noexcept`, which is part of the type: other declarations of these names must stay compatible. */
 #if defined(__GNUC__)
 #define QUVEX_NOTHROW __attribute__((nothrow))
 #else
@@ -52,17 +54,18 @@ QUVEX_NOTHROW void QUVEX_002009(quvex_narrow* destination, const quvex_narrow* s
 QUVEX_NOTHROW void QUVEX_002034(quvex_wide* destination, const quvex_wide* source);
 
 /** Size-bounded copy: the first min(length, size - 1) characters of `source`, always terminated.
-    A null source gives the empty string. Nothing is written if `destination` is null or is `source` itself, or if `size`
-    is 0 or less. `destination` must hold `size` units or length + 1, whichever is fewer. `source` is read up to its
-    terminator or index size - 1, whichever comes first, and needs no terminator beyond. */
+    A null source gives the empty string. Nothing is written if `destination` is null or is `source` itself, or if
+    `size` is 0 or less. `destination` must hold `size` units or length + 1, whichever is fewer. `source` is read up
+    to its terminator or index size - 1, whichever comes first, and needs no terminator beyond. */
 QUVEX_NOTHROW void QUVEX_002010(quvex_narrow* destination, int32_t size, const quvex_narrow* source);
 QUVEX_NOTHROW void QUVEX_002035(quvex_wide* destination, int32_t size, const quvex_wide* source);
 
-/** Count-bounded copy: units of `source` up to and with its terminator, but at most `count`. With a length of `count` or
-    more, exactly `count` characters are written and no terminator. The rest of the destination is not filled.
-    A null source, or a count of 0 or less, gives the empty string. Nothing is written if `destination` is null or is
-    `source` itself. `destination` must hold min(length + 1, count) units, and at least 1. No source unit at index `count`
-    or beyond is read: `source` may be a field without a terminator. */
+/** Count-bounded copy: units of `source` up to and with its terminator, but at most `count`. With a length of
+    `count` or more, exactly `count` characters are written and no terminator. The rest of the destination is not
+    filled.
+    A null source, or a count of 0 or less, gives the empty string. Nothing is written if `destination` is null or
+    is `source` itself. `destination` must hold min(length + 1, count) units, and at least 1. No source unit at
+    index `count` or beyond is read: `source` may be a field without a terminator. */
 QUVEX_NOTHROW void QUVEX_002017(quvex_narrow* destination, const quvex_narrow* source, int32_t count);
 QUVEX_NOTHROW void QUVEX_002044(quvex_wide* destination, const quvex_wide* source, int32_t count);
 
@@ -73,21 +76,21 @@ QUVEX_NOTHROW void QUVEX_002044(quvex_wide* destination, const quvex_wide* sourc
 QUVEX_NOTHROW void QUVEX_002005(quvex_narrow* destination, const quvex_narrow* source);
 QUVEX_NOTHROW void QUVEX_002030(quvex_wide* destination, const quvex_wide* source);
 
-/** Size-bounded append: `size` is that of the whole destination, not what is left of it. The first
-    n = min(length, size - L - 1) characters of `source` are appended and terminated; source units 0 to n are read.
-    Nothing is written if either is null, or if `size` is L + 1 or less: a destination that is full, or longer than `size`
-    allows, is neither changed nor shortened. */
+/** Size-bounded append: `size` is that of the whole destination, not what is left of it. The first n = min(length,
+    size - L - 1) characters of `source` are appended and terminated; source units 0 to n are read.
+    Nothing is written if either is null, or if `size` is L + 1 or less: a destination that is full, or longer than
+    `size` allows, is neither changed nor shortened. */
 QUVEX_NOTHROW void QUVEX_002006(quvex_narrow* destination, int32_t size, const quvex_narrow* source);
 QUVEX_NOTHROW void QUVEX_002031(quvex_wide* destination, int32_t size, const quvex_wide* source);
 
-/** Count-bounded append (wide only): the first n = min(length, count) characters of `source`, 0 for a negative count, and
-    always a terminator. `destination` must hold L + n + 1 units. Source units 0 to n are read, or none if `count` is 0 or
-    less. Nothing is written if either is null. */
+/** Count-bounded append (wide only): the first n = min(length, count) characters of `source`, 0 for a negative
+    count, and always a terminator. `destination` must hold L + n + 1 units. Source units 0 to n are read, or none
+    if `count` is 0 or less. Nothing is written if either is null. */
 QUVEX_NOTHROW void QUVEX_002041(quvex_wide* destination, const quvex_wide* source, int32_t count);
 
-/** Size- and count-bounded append (wide only): the first n = min(length, count, size - L - 1) characters of `source`, 0
-    for a negative count, and always a terminator. Source units 0 to n are read, or none if `count` is 0 or less. Nothing is
-    written if either is null, or if `size` is L + 1 or less. */
+/** Size- and count-bounded append (wide only): the first n = min(length, count, size - L - 1) characters of
+    `source`, 0 for a negative count, and always a terminator. Source units 0 to n are read, or none if `count` is 0
+    or less. Nothing is written if either is null, or if `size` is L + 1 or less. */
 QUVEX_NOTHROW void QUVEX_002042(quvex_wide* destination, int32_t size, const quvex_wide* source, int32_t count);
 
 /* ---- Case ---- */
@@ -111,20 +114,20 @@ QUVEX_NOTHROW void QUVEX_002052(quvex_wide* string);
    0: equal. i + 1: first differing at index i, where `first` has the greater unit. -(i + 1): where it has the smaller.
    The terminator compares as 0, so a prefix orders first. One null string orders before every other: 1 if `second` is
    null, -1 if `first` is. The same pointer twice, null included, is 0 and nothing is read.
-   Both strings are read to the first difference, the common terminator or the bound. Strings that agree in 2147483647 or
-   more units must not be passed. */
+   Both strings are read to the first difference, the common terminator or the bound. Strings that agree in 2147483647
+   or more units must not be passed. */
 
 /** Comparison. */
 QUVEX_NOTHROW int32_t QUVEX_002008(const quvex_narrow* first, const quvex_narrow* second);
 QUVEX_NOTHROW int32_t QUVEX_002033(const quvex_wide* first, const quvex_wide* second);
 
-/** Count-bounded comparison: at most the first `count` units of each, which need no terminator among them; a count of 0 or
-    less compares nothing and gives 0, but after the null strings have been told apart. */
+/** Count-bounded comparison: at most the first `count` units of each, which need no terminator among them; a count
+    of 0 or less compares nothing and gives 0, but after the null strings have been told apart. */
 QUVEX_NOTHROW int32_t QUVEX_002016(const quvex_narrow* first, const quvex_narrow* second, int32_t count);
 QUVEX_NOTHROW int32_t QUVEX_002043(const quvex_wide* first, const quvex_wide* second, int32_t count);
 
-/** Case-insensitive comparison: both units are folded to lower case before they are compared, for equality and order, so
-    that the six characters from 91 to 96 order below every letter. */
+/** Case-insensitive comparison: both units are folded to lower case before they are compared, for equality and
+    order, so that the six characters from 91 to 96 order below every letter. */
 QUVEX_NOTHROW int32_t QUVEX_002012(const quvex_narrow* first, const quvex_narrow* second);
 QUVEX_NOTHROW int32_t QUVEX_002037(const quvex_wide* first, const quvex_wide* second);
 
@@ -168,18 +171,19 @@ QUVEX_NOTHROW quvex_wide* QUVEX_002050(quvex_wide* string, uint32_t* cursor, con
 QUVEX_NOTHROW int32_t QUVEX_002021(quvex_narrow* string, const quvex_narrow* set, quvex_narrow** array);
 QUVEX_NOTHROW int32_t QUVEX_002048(quvex_wide* string, const quvex_wide* set, quvex_wide** array);
 
-/** Trim the characters of `set` from both ends, in place: what is kept moves to the start of `string`. The result is its
-    length. A null or empty set strips nothing. `string` must not be null, and must be writable even if nothing is
-    stripped; nothing beyond its terminator is touched. */
+/** Trim the characters of `set` from both ends, in place: what is kept moves to the start of `string`. The result
+    is its length. A null or empty set strips nothing. `string` must not be null, and must be writable even if
+    nothing is stripped; nothing beyond its terminator is touched. */
 QUVEX_NOTHROW int32_t QUVEX_002024(quvex_narrow* string, const quvex_narrow* set);
 QUVEX_NOTHROW int32_t QUVEX_002051(quvex_wide* string, const quvex_wide* set);
 
-/** Replace every occurrence of `pattern` in `source`, from left to right and never overlapping, and write the result to
-    `destination`. The result is its length, S + n * (R - P) for n occurrences; what a replacement brings in is not searched.
+/** Replace every occurrence of `pattern` in `source`, from left to right and never overlapping, and write the
+    result to `destination`. The result is its length, S + n * (R - P) for n occurrences; what a replacement brings
+    in is not searched.
     `destination` must hold that length + 1 units; null asks for the length alone, and nothing is written.
     0, and nothing written, if a string is null or `pattern` is empty.
-    In place: `destination` may be `source` if `replacement` is shorter than `pattern`, or if there is no occurrence; then
-    nothing is written. It must not overlap anything otherwise. */
+    In place: `destination` may be `source` if `replacement` is shorter than `pattern`, or if there is no
+    occurrence; then nothing is written. It must not overlap anything otherwise. */
 QUVEX_NOTHROW int32_t QUVEX_002020(const quvex_narrow* source, const quvex_narrow* pattern,
                                    const quvex_narrow* replacement, quvex_narrow* destination);
 QUVEX_NOTHROW int32_t QUVEX_002047(const quvex_wide* source, const quvex_wide* pattern, const quvex_wide* replacement,
@@ -187,10 +191,12 @@ QUVEX_NOTHROW int32_t QUVEX_002047(const quvex_wide* source, const quvex_wide* p
 
 /* ---- Integer and text ---- */
 
-/** Integer to text: `-` for a negative value, then the digits of its magnitude, `0` to `9` and `a` to `z`, terminated.
-    Returns `destination`, null included. It must hold 34 units for any value in any radix, 12 in radix 10, 10 in radix 16.
-    A radix of 0 or less gives the empty string. A radix above 36 goes on behind `z`: digit d is the unit 87 + d, modulo the
-    unit's width. A radix of 1 is for the value 0 alone; with another it gives the empty string. */
+/** Integer to text: `-` for a negative value, then the digits of its magnitude, `0` to `9` and `a` to `z`,
+    terminated.
+    Returns `destination`, null included. It must hold 34 units for any value in any radix, 12 in radix 10, 10 in
+    radix 16.
+    A radix of 0 or less gives the empty string. A radix above 36 goes on behind `z`: digit d is the unit 87 + d,
+    modulo the unit's width. A radix of 1 is for the value 0 alone; with another it gives the empty string. */
 QUVEX_NOTHROW quvex_narrow* QUVEX_002003(int32_t value, quvex_narrow* destination, int32_t radix);
 QUVEX_NOTHROW quvex_wide* QUVEX_002004(int32_t value, quvex_wide* destination, int32_t radix);
 
@@ -201,19 +207,21 @@ QUVEX_NOTHROW int32_t QUVEX_002053(const quvex_wide* source);
 
 /* ---- From one width to the other ---- */
 
-/** Escaped narrowing: wide text as printable ASCII. A unit from 32 to 126 stays one character; any other becomes `&(0x`,
-    its 1 to 4 hexadecimal digits in lower case, and `)`. Always terminated; stops before the first piece, character or
-    escape, that does not fit whole, and reads no further.
-    Returns `destination`; if that is null, a constant empty string, which must not be written to. A null source gives the
-    empty string. A size of 1 or less gives it too: `destination` must hold 1 unit whatever its size. */
+/** Escaped narrowing: wide text as printable ASCII. A unit from 32 to 126 stays one character; any other becomes
+    `&(0x`, its 1 to 4 hexadecimal digits in lower case, and `)`. Always terminated; stops before the first piece,
+    character or escape, that does not fit whole, and reads no further.
+    Returns `destination`; if that is null, a constant empty string, which must not be written to. A null source
+    gives the empty string. A size of 1 or less gives it too: `destination` must hold 1 unit whatever its size. */
 QUVEX_NOTHROW const quvex_narrow* QUVEX_002029(const quvex_wide* source, quvex_narrow* destination, int32_t size);
 
-/** Size-bounded widening copy: the first min(length, size - 1) characters of `source`, each as the wide unit of the same
-    number, always terminated. Returns `destination`, null included. A null source gives the empty string. A size of 1 or
-    less gives it too: `destination` must hold 1 unit whatever its size. No source unit beyond index size - 1 is read. */
+/** Size-bounded widening copy: the first min(length, size - 1) characters of `source`, each as the wide unit of the
+    same number, always terminated. Returns `destination`, null included. A null source gives the empty string. A
+    size of 1 or less gives it too: `destination` must hold 1 unit whatever its size. No source unit beyond index
+    size - 1 is read. */
 QUVEX_NOTHROW quvex_wide* QUVEX_002001(const quvex_narrow* source, quvex_wide* destination, int32_t size);
 
-/** Widening unit copy: exactly `count` units, zeros among them, each as the wide unit of the same number; no terminator.
+/** Widening unit copy: exactly `count` units, zeros among them, each as the wide unit of the same number; no
+    terminator.
     Nothing happens if either is null or `count` is 0 or less. */
 QUVEX_NOTHROW void QUVEX_002002(const quvex_narrow* source, quvex_wide* destination, int32_t count);
 
