@@ -14,12 +14,10 @@
     - Null: every pointer may be null, with the result that is stated; the one exception is the string of trim.
     - Errors: there are none to report. Every argument that the caller may pass has a defined result.
     - Overlap: a destination must not overlap a source, unless the operation says what happens.
-    - Letters: `A` to `Z` (65 to 90) and `a` to `z` (97 to 122), tested on the whole value; folding adds or subtracts
-      32.
+    - Letters: `A` to `Z` (65 to 90) and `a` to `z` (97 to 122), tested on the whole value; their cases differ by 32.
     - What is not mentioned is not touched: nothing is read past a terminator or a bound, and every destination unit
       that a contract does not name keeps its value.
-    - Reentrant, without state or allocation: two calls may run at once if they do not share a buffer that one writes.
-      */
+    - Reentrant, without state or allocation: calls may run at once if none writes a buffer that another uses. */
 #ifndef QUVEX_H
 #define QUVEX_H
 

@@ -1,8 +1,9 @@
 #ifndef QUVEX_SRC_EXPORTED_H
 #define QUVEX_SRC_EXPORTED_H
 
-#include "leaf.h"
 #include "quvex.h"
+
+#include "leaf.h"
 
 // The exported operations that others are composed of, by name and width.
 namespace exported {

@@ -1,6 +1,8 @@
 #ifndef QUVEX_SRC_FOLD_H
 #define QUVEX_SRC_FOLD_H
 
+#include <stdint.h>
+
 #include "leaf.h"
 
 // One range test each: what lies below the range wraps around to a large number.

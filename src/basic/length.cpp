@@ -1,5 +1,6 @@
-#include "../leaf.h"
 #include "quvex.h"
+
+#include "../leaf.h"
 
 namespace {
 

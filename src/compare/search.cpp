@@ -1,5 +1,6 @@
-#include "../fold.h"
 #include "quvex.h"
+
+#include "../fold.h"
 
 namespace {
 

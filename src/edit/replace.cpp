@@ -1,5 +1,6 @@
-#include "../exported.h"
 #include "quvex.h"
+
+#include "../exported.h"
 
 namespace {
 
