@@ -1,0 +1,2 @@
+function(quvex_add_test)
+endfunction()

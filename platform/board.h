@@ -1,0 +1,29 @@
+#ifndef BOARD_H
+#define BOARD_H
+
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* The next byte of the UART, waited for. 4 (Ctrl-D) ends an input: the emulator does not tell the end of its own. */
+int board_read(void);
+
+void board_write(char character);
+
+/* End the emulator with this exit status. */
+__attribute__((noreturn)) void board_exit(int status);
+
+enum board_access { BOARD_ACCESS_ALL, BOARD_ACCESS_READ, BOARD_ACCESS_NONE };
+
+/* Let the memory protection unit refuse what `access` does not allow: the image then ends with a line that names the
+   address. `area` is 0 to 3, each in force until it is set anew; `size` is a power of two, 32 or more, and `address` a
+   multiple of it. */
+void board_protect(int area, const volatile void* address, uint32_t size, enum board_access access);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
