@@ -103,8 +103,8 @@ static int split_arguments(char* line, char** arguments, int limit) {
 
 void board_reset(void) {
   const uint32_t* load = board_data_load;
-  for (uint32_t* word = board_data; word < board_data_end;) *word++ = *load++;
-  for (uint32_t* word = board_bss; word < board_bss_end;) *word++ = 0;
+  for (uint32_t* word = board_data; word != board_data_end;) *word++ = *load++;
+  for (uint32_t* word = board_bss; word != board_bss_end;) *word++ = 0;
   device(BOARD_UART)[UART_DIVIDER] = 217; /* 115,200 baud at 25 MHz */
   device(BOARD_UART)[UART_CONTROL] = 3;
 
@@ -115,7 +115,8 @@ void board_reset(void) {
   const int argument_count = split_arguments(line, arguments, 15);
 
   if (initialise_monitor_handles) initialise_monitor_handles();
-  for (void (*const* constructor)(void) = board_constructors; constructor < board_constructors_end;) (*constructor++)();
+  for (void (*const* constructor)(void) = board_constructors; constructor != board_constructors_end;)
+    (*constructor++)();
   const int status = main(argument_count, arguments);
   if (exit) exit(status);
   board_exit(status);

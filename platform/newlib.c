@@ -6,7 +6,12 @@
 
 void _fini(void);
 
-char* getcwd(char* buffer, size_t size) { return size < 2 ? NULL : strcpy(buffer, "."); }
+char* getcwd(char* buffer, size_t size) {
+  if (size < 2) return NULL;
+  buffer[0] = '.';
+  buffer[1] = 0;
+  return buffer;
+}
 
 int mkdir(const char* path, mode_t mode) {
   (void)path, (void)mode;
