@@ -28,7 +28,7 @@ QUVEX_INLINE void copy_counted(Unit* destination, const Unit* source, int32_t co
   if (!destination || destination == source) return;
   *destination = 0;
   if (!source) return;
-  while (count-- > 0 && (*destination++ = *source++)) {
+  for (; count > 0 && (*destination++ = *source++); --count) {
   }
 }
 
