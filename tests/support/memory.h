@@ -1,0 +1,23 @@
+#ifndef TESTS_SUPPORT_MEMORY_H
+#define TESTS_SUPPORT_MEMORY_H
+
+#include <cstddef>
+#include <cstdint>
+
+// Pages that a test opens one by one, each between two that stay closed: an access that is not allowed ends the program.
+enum class Access { none, read, write };
+constexpr int pages = 4;
+#ifdef __unix__
+constexpr std::size_t page_size = 16384;  // as large as the system's own, or larger
+#else
+constexpr std::size_t page_size = 1024;
+#endif
+uint8_t* protect_page(int page, Access access);  // Returns its start.
+
+// The state of the running row.
+enum class Side { start, end };
+inline Side side_under_test;
+inline int used_pages;
+inline int row;
+
+#endif

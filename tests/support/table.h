@@ -1,0 +1,55 @@
+#ifndef TESTS_SUPPORT_TABLE_H
+#define TESTS_SUPPORT_TABLE_H
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <tuple>
+
+#include "guarded.h"
+#include "operations.h"
+
+constexpr int32_t least = INT32_MIN, greatest = INT32_MAX;
+
+struct WidthName {
+  template <class Unit>
+  static std::string GetName(int) {
+    return sizeof(Unit) == sizeof(quvex_narrow) ? "narrow" : "wide";
+  }
+};
+
+// A suite whose tests run once for each width.
+#define TWIN_SUITE(Family)                                         \
+  template <class Unit>                                            \
+  struct Family : testing::Test {};                                \
+  using Family##Widths = testing::Types<quvex_narrow, quvex_wide>; \
+  TYPED_TEST_SUITE(Family, Family##Widths, WidthName)
+
+template <class Unit, class Cell>
+bool fits(const Cell&) {
+  return true;
+}
+
+template <class Unit>
+bool fits(const Text& text) {
+  return std::all_of(text.units.begin(), text.units.end(),
+                     [](char16_t unit) { return static_cast<Unit>(unit) == unit; });
+}
+
+// Calls `body` with the cells of each row, once for each side of its buffers. A row with a unit above 255 is for wide
+// strings alone.
+template <class Unit, class... Cells, class Body>
+void each_row(std::initializer_list<std::tuple<Cells...>> table, Body body) {
+  row = 0;
+  for (const auto& cells : table) {
+    ++row;
+    SCOPED_TRACE("row " + std::to_string(row));
+    if (!std::apply([](const Cells&... cell) { return (fits<Unit>(cell) && ...); }, cells)) continue;
+    for (Side side : {Side::start, Side::end}) {
+      side_under_test = side;
+      std::apply(body, cells);
+    }
+  }
+}
+
+#endif

@@ -1,0 +1,24 @@
+#include "support/table.h"
+
+TWIN_SUITE(Trim);
+
+// What lies behind the new terminator is stated too: it keeps its value.
+TYPED_TEST(Trim, StripsASetFromBothEnds) {
+  each_row<TypeParam, Text, Text, int32_t, Text>(
+      {
+          {u"  ab c  ", u" ", 4, u"ab c\0c\0 "},
+          {u"\t a", u" \t", 1, u"a\0a"},
+          {u"a ", u" ", 1, u"a\0"},
+          {u"   ", u" ", 0, u"\0  "},
+          {u"", u" ", 0, u""},
+          {u" a ", u"", 3, u" a "},
+          {u" a ", nullptr, 3, u" a "},
+          {u"\x80\xFF\x80", u"\x80", 1, u"\xFF\0\0"},
+          {u"\x120\x8020 \x120", u"\x120", 2, u"\x8020 \0\0"},
+      },
+      [](const Text& text, const Text& stripped, int32_t length, const Text& after) {
+        Destination<TypeParam> string(text, after);
+        Source<TypeParam> set(stripped);
+        EXPECT_EQ(Op<TypeParam>::trim(string, set), length);
+      });
+}
