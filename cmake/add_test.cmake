@@ -1,7 +1,4 @@
 # quvex_add_test(NAME SOURCE...): a GoogleTest program, each of its tests known to CTest; on the board if one is built for.
-if(NOT BUILD_TESTING)
-  return()
-endif()
 include(GoogleTest)
 if(BOARD_MACHINE)
   include(${CMAKE_CURRENT_LIST_DIR}/board_googletest.cmake)

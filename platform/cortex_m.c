@@ -1,16 +1,9 @@
-#include "board.h"
+#include "start.h"
 
-int main(int argument_count, char** arguments);
 void board_reset(void);
 
-/* Present only in an image that links a hosted C library. */
-__attribute__((weak)) void initialise_monitor_handles(void);
-__attribute__((weak, noreturn)) void exit(int status);
-
 /* From board.ld. */
-extern uint32_t board_stack_top[], board_data_load[], board_data[], board_data_end[], board_bss[], board_bss_end[];
-extern void (*const board_constructors[])(void);
-extern void (*const board_constructors_end[])(void);
+extern uint32_t board_stack_top[];
 
 static volatile uint32_t* device(uint32_t address) { return (volatile uint32_t*)address; }
 
@@ -67,26 +60,11 @@ void board_protect(int area, const volatile void* address, uint32_t size, enum b
   __asm__ volatile("dsb\n\tisb" ::: "memory");
 }
 
-static void write_text(const char* text) {
-  while (*text) board_write(*text++);
-}
-
-static void write_hexadecimal(uint32_t value) {
-  write_text(" 0x");
-  for (int shift = 28; shift >= 0; shift -= 4) board_write("0123456789abcdef"[value >> shift & 15]);
-}
-
 __attribute__((used, noreturn)) static void report_fault(const uint32_t* frame) {
   const uint32_t status = *FAULT_STATUS;
-  write_text("\nfault at");
-  /* Bits 7 and 15 of the status tell whether the address of the memory or bus fault is known. */
-  write_hexadecimal(status & 0x80 ? FAULT_ADDRESS[0] : status & 0x8000 ? FAULT_ADDRESS[1] : frame[6]);
-  write_text(", instruction");
-  write_hexadecimal(frame[6]);
-  write_text(", status");
-  write_hexadecimal(status);
-  write_text("\n");
-  board_exit(70);
+  const uint32_t instruction = frame[6];
+  /* Bits 7 and 15 of the status tell whether the address of a memory or a bus fault is known. */
+  board_fault(status & 0x80 ? FAULT_ADDRESS[0] : status & 0x8000 ? FAULT_ADDRESS[1] : instruction, instruction, status);
 }
 
 __attribute__((naked)) static void fault(void) { __asm__("mov r0, sp\n\tb report_fault"); }
@@ -101,26 +79,17 @@ static int split_arguments(char* line, char** arguments, int limit) {
   return count;
 }
 
-void board_reset(void) {
-  const uint32_t* load = board_data_load;
-  for (uint32_t* word = board_data; word != board_data_end;) *word++ = *load++;
-  for (uint32_t* word = board_bss; word != board_bss_end;) *word++ = 0;
+int board_open(char** arguments, int limit) {
   device(BOARD_UART)[UART_DIVIDER] = 217; /* 115,200 baud at 25 MHz */
   device(BOARD_UART)[UART_CONTROL] = 3;
 
   static char line[512];
-  static char* arguments[16];
   const uint32_t command_line[] = {(uint32_t)line, sizeof line};
   semihost(0x15, command_line);
-  const int argument_count = split_arguments(line, arguments, 15);
-
-  if (initialise_monitor_handles) initialise_monitor_handles();
-  for (void (*const* constructor)(void) = board_constructors; constructor != board_constructors_end;)
-    (*constructor++)();
-  const int status = main(argument_count, arguments);
-  if (exit) exit(status);
-  board_exit(status);
+  return split_arguments(line, arguments, limit);
 }
+
+void board_reset(void) { board_run(); }
 
 __attribute__((section(".vectors"), used)) static const void* const vectors[16] = {
     board_stack_top, board_reset, fault, fault, fault, fault, fault, fault};

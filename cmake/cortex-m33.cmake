@@ -1,0 +1,8 @@
+set(BOARD_CORE cortex-m33)
+set(BOARD_MACHINE mps2-an505)  # as QEMU names it
+set(BOARD_CODE 0x10000000)
+set(BOARD_CODE_SIZE 4M)
+set(BOARD_DATA 0x38000000)
+set(BOARD_DATA_SIZE 4M)
+set(BOARD_UART 0x50200000)
+include(${CMAKE_CURRENT_LIST_DIR}/cortex-m.cmake)

@@ -1,0 +1,8 @@
+set(BOARD_CORE cortex-m55)
+set(BOARD_MACHINE mps3-an547)  # as QEMU names it
+set(BOARD_CODE 0x10000000)
+set(BOARD_CODE_SIZE 512K)
+set(BOARD_DATA 0x31000000)
+set(BOARD_DATA_SIZE 2M)
+set(BOARD_UART 0x59303000)
+include(${CMAKE_CURRENT_LIST_DIR}/cortex-m.cmake)
