@@ -1,0 +1,58 @@
+/* A user's program, in C and C++: every name once, with a result that tells whether it reached its operation. */
+#include <stdint.h>
+#include <stdio.h>
+
+#ifdef __cplusplus
+#include "quvex.hpp"
+#define CALL(name) quvex::name
+typedef char16_t wide_character;
+#define WIDE(text) u##text
+#else
+#include "quvex_names.h"
+#define CALL(name) quvex_##name
+typedef uint16_t wide_character;
+#define WIDE(text) ((const uint16_t[]){'w', 'i', 'd', 'e', 0})
+#endif
+
+static int failed;
+static void expect(int condition, int line) {
+  if (condition) return;
+  printf("caller.c:%d\n", line);
+  ++failed;
+}
+#define EXPECT(condition) expect(condition, __LINE__)
+
+int main(void) {
+  char text[40], *words[4];
+  const wide_character end[] = {'e', 0};
+  wide_character wide[40];
+  uint32_t cursor = 0;
+  CALL(copy)(text, "One,two");
+  CALL(append)(text, ",three");
+  EXPECT(CALL(compare)(text, "One,two,three") == 0);
+  CALL(copy_bounded)(text, 4, "One,two");
+  CALL(append_bounded)(text, 6, "12345");
+  EXPECT(CALL(compare)(text, "One12") == 0 && CALL(compare)("abc", "abd") == -3);
+  CALL(copy_counted)(text, "un", 2);
+  EXPECT(CALL(compare_counted)(text, "une", 3) == 0 && CALL(compare_folded)(text, "UNE12") == 0);
+  EXPECT(CALL(compare_folded_counted)(text, "UNX", 3) == -3 && CALL(length)(text) == 5);
+  CALL(to_upper)(text);
+  EXPECT(*CALL(find_character)(text, 'N') == 'N' && CALL(find)(text, "E1") == &text[2]);
+  CALL(to_lower)(text);
+  EXPECT(CALL(find_folded)(text, "E1") == &text[2]);
+  EXPECT(CALL(character_to_lower)('A') == 'a' && CALL(character_to_upper)('a') == 'A');
+  CALL(copy)(text, " a b ");
+  EXPECT(CALL(trim)(text, " ") == 3 && CALL(replace)("a-b", "-", "+++", text) == 5 && CALL(length)(text) == 5);
+  EXPECT(CALL(split)(text, "+", words) == 2 && *words[1] == 'b');
+  EXPECT(CALL(next_token)(text, &cursor, ",") == text && cursor == 1);
+  EXPECT(CALL(to_integer)(CALL(to_text)(-255, text, 10)) == -255);
+  EXPECT(CALL(length)(CALL(widen)("wid", wide, 40)) == 3);
+  CALL(append_counted)(wide, end, 1);
+  EXPECT(CALL(compare)(wide, WIDE("wide")) == 0);
+  CALL(append_bounded_counted)(wide, 6, WIDE("wide"), 4);
+  CALL(copy_units)(&wide[1], wide, 5);
+  EXPECT(CALL(compare)(CALL(escape)(wide, text, 40), "idew") == 0);
+  CALL(widen_units)("\x80", wide, 1);
+  EXPECT(CALL(find_character)(wide, 0x80) == wide);
+  return failed;
+}
