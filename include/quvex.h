@@ -23,6 +23,12 @@
 
 #include <stdint.h>
 
+/** The version of this header, and one number to compare: `#if QUVEX_VERSION >= 10200` asks for 1.2.0. */
+#define QUVEX_VERSION_MAJOR 1
+#define QUVEX_VERSION_MINOR 0
+#define QUVEX_VERSION_PATCH 0
+#define QUVEX_VERSION (QUVEX_VERSION_MAJOR * 10000 + QUVEX_VERSION_MINOR * 100 + QUVEX_VERSION_PATCH)
+
 /** A code unit of a narrow string: 0 to 255. */
 typedef uint8_t quvex_narrow;
 
