@@ -22,6 +22,10 @@ enum board_access { BOARD_ACCESS_ALL, BOARD_ACCESS_READ, BOARD_ACCESS_NONE };
    multiple of it. */
 void board_protect(int area, const volatile void* address, uint32_t size, enum board_access access);
 
+#if defined(__cplusplus) && !__STDC_HOSTED__
+int main(); /* a function like any other to a freestanding compiler, which would mangle its name */
+#endif
+
 #ifdef __cplusplus
 }
 #endif
