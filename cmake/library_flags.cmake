@@ -20,7 +20,9 @@ target_compile_options(quvex PRIVATE
   -ffile-prefix-map=${PROJECT_SOURCE_DIR}=quvex  # the same bytes in whatever folder they are built
   -ffile-prefix-map=${CMAKE_BINARY_DIR}=build    # likewise
   -include ${CMAKE_CURRENT_LIST_DIR}/any_float_abi.h
-  $<$<CXX_COMPILER_ID:GNU>:-fno-ipa-icf>)        # equal twins must not be merged: each is a section of its own
+  $<$<CXX_COMPILER_ID:GNU>:-fno-ipa-icf>         # equal twins must not be merged: each is a section of its own
+  $<$<CXX_COMPILER_ID:Clang>:-mno-outline>       # likewise for what they share, at -Oz
+  $<$<CXX_COMPILER_ID:Clang>:-fsjlj-exceptions>) # no .ARM.exidx, which clang emits even where nothing throws
 
 # D: no time, user or mode of a member in the archive.
 set(CMAKE_CXX_ARCHIVE_CREATE "<CMAKE_AR> qcD <TARGET> <LINK_FLAGS> <OBJECTS>")
