@@ -107,9 +107,13 @@ inline constexpr auto twin<quvex_wide, Narrow, Wide> = Wide;
 template <class Unit, detail::size_type Room = 0>
 class units {
  public:
+  // Implicit, so that a call reads like any other.
+  // cppcheck-suppress noExplicitConstructor
   QUVEX_FORWARD units(detail::null_type) noexcept : first_(nullptr) {}
   template <class Text>
-  QUVEX_FORWARD units(Text&& text) noexcept
+  // A copy of this class cannot come here: unit_of knows no such text.
+  // cppcheck-suppress noExplicitConstructor
+  QUVEX_FORWARD units(Text&& text) noexcept  // NOLINT(bugprone-forwarding-reference-overload)
       : first_(reinterpret_cast<Unit*>(static_cast<detail::type_of<Text>*>(text))) {
     using type = detail::type_of<Text>;
     static_assert(sizeof(detail::unit_of<Text>) == sizeof(Unit), "quvex: narrow and wide text do not mix");
@@ -138,8 +142,10 @@ using pointer = detail::type_of<Text>*;
 /** A character's number. */
 class number {
  public:
+  // cppcheck-suppress noExplicitConstructor
   constexpr number(char character) noexcept : value_(static_cast<unsigned char>(character)) {}
   template <class Integer, class = decltype(Integer() % 1)>
+  // cppcheck-suppress noExplicitConstructor
   constexpr number(Integer character) noexcept : value_(static_cast<int32_t>(character)) {
     static_assert(sizeof(Integer) <= sizeof(int32_t), "quvex: a character has at most 32 bits");
   }
