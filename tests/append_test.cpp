@@ -10,7 +10,6 @@ TYPED_TEST(Append, FollowsTheTextWithinASizeAndACount) {
           {u""_u, greatest, nullptr, greatest, nullptr},
           {u"ab", greatest, u"cd", greatest, u"abcd"},
           {u"", greatest, u"cd", greatest, u"cd"},
-          {u"ab", greatest, u"", greatest, u"ab"},
           {u"ab", least, u""_u, greatest, nullptr},
           {u"ab", -1, u""_u, greatest, nullptr},
           {u"ab", 0, u""_u, greatest, nullptr},

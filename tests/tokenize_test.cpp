@@ -14,7 +14,7 @@ TYPED_TEST(Tokenize, ReturnsTheNextTokenAndMovesTheCursor) {
           {u",,,", 4, u",", -1, 7, nullptr},
           {u"", 6, u",", -1, 6, nullptr},
           {u"\xFE\x80\xFF"_u, 0, u"\xFF\xFE", 1, 3, u"\xFE\x80\0"_u},
-          {u",\x12C\x22C"_u, 0, u"\x22C,", 1, 3, u",\x12C\0"_u},
+          {u",\x100\x12C\x22C"_u, 0, u"\x200\x22C,", 1, 4, u",\x100\x12C\0"_u},
       },
       [](const Text& rest, uint32_t cursor, const Text& delimiters, int token, uint32_t next, const Text& after) {
         Destination<TypeParam> string(rest, after);

@@ -14,7 +14,7 @@ TYPED_TEST(Trim, StripsASetFromBothEnds) {
           {u" a ", u"", 3, u" a "},
           {u" a ", nullptr, 3, u" a "},
           {u"\x80\xFF\x80", u"\x80", 1, u"\xFF\0\0"},
-          {u"\x120\x8020 \x120", u"\x120", 2, u"\x8020 \0\0"},
+          {u"\x120\x100 \x120", u"\x200\x120", 2, u"\x100 \0\0"},
       },
       [](const Text& text, const Text& stripped, int32_t length, const Text& after) {
         Destination<TypeParam> string(text, after);
