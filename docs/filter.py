@@ -1,0 +1,62 @@
+#!/usr/bin/env python3
+"""What Doxygen reads for a public header: quvex.h with a heading, cost and example for each operation.
+
+Doxygen calls it with the header's name; the header itself stays plain text. Of the two headers of readable names, only
+the introduction is passed on: their operations stand with those of quvex.h.
+"""
+import csv
+import pathlib
+import re
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+NAMES = dict(re.findall(r"^OPERATION\((\d+), (\w+),", (ROOT / "tests/consumers/operations.inc").read_text(), re.M))
+EXAMPLES = dict(re.findall(r"^## (\w+)\n\n(.*?)(?=^## |\Z)", (ROOT / "docs/examples.md").read_text(), re.M | re.S))
+
+
+def costs():
+    """What scripts/report measured: link name, then columns under their own headings. Empty before it has run."""
+    file = ROOT / "docs/costs.csv"
+    if not file.exists():
+        return [], {}
+    heading, *rows = csv.reader(line for line in file.open() if not line.startswith("#"))
+    return heading[1:], {row[0]: row[1:] for row in rows}
+
+
+def operation(match):
+    """A contract and its twins as a group of members under the readable name."""
+    contract, declarations = match[1], match[2].replace("QUVEX_NOTHROW ", "")
+    numbers = re.findall(r"QUVEX_(\d+)", declarations)
+    name = NAMES[numbers[0]]
+    # Markdown takes four blanks for code, and a line that ends a sentence ends a paragraph.
+    paragraphs = re.sub(r"(?<=\.)\n", "\n\n", re.sub(r"^ +", "", contract, flags=re.M))
+    lines = [f"/** @name {name}", paragraphs, "", f"C++ `quvex::{name}`, C `quvex_{name}`.", ""]
+    heading, cost = costs()
+    if cost:
+        lines += ["| | " + " | ".join(heading) + " |", "|---|" + "---|" * len(heading)]
+        lines += [f"| QUVEX_{number} | " + " | ".join(cost[f"QUVEX_{number}"]) + " |" for number in numbers]
+    code, output = re.fullmatch(r"```cpp\n(.*?)```\n```text\n(.*?)```\n*", EXAMPLES[name], re.S).groups()
+    lines += ["", "@code{.cpp}", code.rstrip(), "@endcode", "prints", "@code{.unparsed}", output.rstrip(), "@endcode"]
+    return "\n".join(lines) + f"\n@{{ */\n{declarations}/** @}} */\n"
+
+
+def section(match):
+    """A family as a topic: its title, and what holds for all of it."""
+    title, _, general = match[1].partition(": ")
+    general = general and general[0].upper() + general[1:] + "."
+    slug = re.sub(r"\W+", "_", title.lower())
+    return f"/** @}} */\n/** @defgroup quvex_{slug} {title}\n{general}\n\n{match[2] or ''}\n@{{ */\n"
+
+
+def main(name):
+    text = pathlib.Path(name).read_text()
+    if pathlib.Path(name).name != "quvex.h":
+        print(re.match(r"/\*\*.*?\*/", text, re.S)[0])
+        return
+    text = re.sub(r"/\*\* ((?:(?!\*/).)*?) ?\*/\n((?:QUVEX_NOTHROW [^;]*;\n)+)", operation, text, flags=re.S)
+    text = re.sub(r"/\* ---- (.*?) ----(?:\n\n(.*?))? ?\*/\n", section, text, flags=re.S)
+    text = text.replace("/** @} */\n/** @defgroup", "/** @defgroup", 1)
+    print(re.sub(r"(#ifdef __cplusplus\n\}\n)", r"/** @} */\n\1", text))
+
+
+main(sys.argv[1])
