@@ -1,5 +1,5 @@
 // Calls every operation, and the C library's counterpart of it, once for each case and length, all from `measured`,
-// whose calls benchmarks/count.py counts. One line is printed for each call.
+// whose calls benchmarks/count.py counts. One line is printed for each call. With an argument, one length alone.
 
 #include "board.h"
 #include "quvex.h"
@@ -50,8 +50,9 @@ struct Case {
 };
 
 constexpr uint32_t longest = 4096;
-const uint32_t lengths[] = {7, 256, 512, 1024, longest, 0};
-const uint32_t digits[] = {1, 4, 7, 10, 0};
+// Of text and of numerals: all, and the last of them alone.
+const uint32_t lengths[][6] = {{7, 256, 1024, longest, 512, 0}, {1, 4, 7, 10, 0}};
+const uint32_t last_length[][2] = {{512, 0}, {10, 0}};
 
 constexpr const char16_t* upper = u"ABCDEFGHIJKLMNOPQRSTUVWXYZ";
 constexpr const char16_t* blanks = u"  ABCDEFGHIJKLMNOPQRSTUVWXYZ";
@@ -60,8 +61,8 @@ constexpr const char16_t* numerals = u"1234567890";
 
 // Arguments: t the text, o the same but for the last unit, f the same in the other case, n the needle or set, r a
 // replacement of three units, d and D the destination, aligned as the text and not, e the same, once emptied,
-// 0 null, c the length, b its bytes if wide, s a size that holds it, E one for escapes, ! the last unit, C and l a letter to change,
-// k a cursor, v a value of as many digits, x the radix ten.
+// 0 null, c the length, b its bytes if wide, s a size that holds it, E one for escapes, ! the last unit,
+// C and l a letter to change, k a cursor, v a value of as many digits, x the radix ten.
 const Case cases[] = {
     {"length", upper, "", "t", F(QUVEX_002014), F(QUVEX_002039), "t", F(strlen)},
     {"copy", upper, "", "dt", F(QUVEX_002009), F(QUVEX_002034), "dt", F(strcpy)},
@@ -179,9 +180,10 @@ __attribute__((noinline)) void measured(Operation* operation, const uint32_t* ar
 namespace {
 
 template <class Unit>
-void run(const Case& row, const Function& function, const char* kinds) {
+void run(const Case& row, const Function& function, const char* kinds, bool all) {
   if (!function.address) return;
-  for (const uint32_t* length = *kinds == 'v' ? digits : lengths; *length; ++length) {
+  const bool of_digits = *kinds == 'v';
+  for (const uint32_t* length = all ? lengths[of_digits] : last_length[of_digits]; *length; ++length) {
     fill<Unit>(text, row.text, *length, '!', 0);
     fill<Unit>(twin, row.text, *length, '?', kinds[1] == 'f' ? 'A' ^ 'a' : 0);
     put<Unit>(needle, row.needle);
@@ -202,11 +204,12 @@ void run(const Case& row, const Function& function, const char* kinds) {
 
 }  // namespace
 
-int main() {
+int main(int argument_count, char**) {
+  const bool all = argument_count < 2;
   for (const Case& row : cases) {
-    run<quvex_narrow>(row, row.narrow, row.arguments);
-    run<quvex_wide>(row, row.wide, row.arguments);
-    run<quvex_narrow>(row, row.library, row.library_arguments);
+    run<quvex_narrow>(row, row.narrow, row.arguments, all);
+    run<quvex_wide>(row, row.wide, row.arguments, all);
+    run<quvex_narrow>(row, row.library, row.library_arguments, all);
   }
   board_exit(0);
 }

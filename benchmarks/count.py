@@ -1,12 +1,13 @@
 #!/usr/bin/env python3
 """Instructions and modelled Cortex-M4 cycles of every call that one function of an image makes.
 
-    benchmarks/count.py IMAGE [--caller measured] [--untraced REGEX] [--functions]
+    benchmarks/count.py IMAGE [--caller measured] [--untraced REGEX] [--functions] [ARGUMENT...]
 
-The emulator runs IMAGE and traces it, one instruction a step. Every call from the function named by --caller is a
-row: what was executed from the calling instruction to the return, what it calls included. The image prints one line
-for each call, its name. With --functions each row is followed by its instructions and cycles by function. Functions
-that match --untraced run without a trace, much faster: what prepares the cases, and nothing that is counted.
+The emulator runs IMAGE with the arguments and traces it, one instruction a step. Every call from the function named by
+--caller is a row: what was executed from the calling instruction to the return, what it calls included. The image
+prints one line for each call, its name. With --functions each row is followed by its instructions and cycles by
+function. Functions that match --untraced run without a trace, much faster: what prepares the cases, and nothing that is
+counted.
 
 The emulator knows no pipeline: the cycles are a model, from the published instruction timings of the core with memory
 that never waits. They are good for comparing two pieces of code, and are never seconds.
@@ -106,11 +107,11 @@ def traced_ranges(code, untraced):
     return ",".join(ranges)
 
 
-def trace(image, board, ranges, output):
+def trace(image, arguments, board, ranges, output):
     """The addresses of the executed instructions, streamed from the emulator; the image prints to `output`."""
     reader, writer = os.pipe()
     options = f"-singlestep -d exec,nochain -dfilter {ranges} -D /dev/fd/{writer}"
-    command = [ROOT / "scripts" / "emulate", "-M", board, "-q", options, image]
+    command = [ROOT / "scripts" / "emulate", "-M", board, "-q", options, image, *arguments]
     try:
         emulator = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=output, stderr=subprocess.STDOUT,
                                     pass_fds=[writer])
@@ -126,7 +127,7 @@ def trace(image, board, ranges, output):
         raise Failure(f"{image}: the emulated run ended with status {emulator.returncode}")
 
 
-def count(image, caller="measured", untraced="fill<", board=BOARD):
+def count(image, arguments=(), caller="measured", untraced="fill<", board=BOARD):
     """One Row for each call that `caller` makes, in the order of the calls."""
     code = disassemble(image)
     inside = {address for address, instruction in code.items() if instruction.function == caller}
@@ -137,7 +138,7 @@ def count(image, caller="measured", untraced="fill<", board=BOARD):
     cost = functools.lru_cache(maxsize=None)(functools.partial(cycles, code))
     rows, pending, call = [], None, None
     with open(os.memfd_create("output"), "w+b") as output:
-        for within, addresses in itertools.groupby(trace(image, board, ranges, output), inside.__contains__):
+        for within, addresses in itertools.groupby(trace(image, arguments, board, ranges, output), inside.__contains__):
             if not within:
                 pending = list(addresses) if call else None
                 continue
@@ -164,12 +165,13 @@ def count(image, caller="measured", untraced="fill<", board=BOARD):
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("image", metavar="IMAGE")
+    parser.add_argument("arguments", metavar="ARGUMENT", nargs="*", help="what the image is given")
     parser.add_argument("--caller", default="measured", help="the function whose calls are counted (%(default)s)")
     parser.add_argument("--untraced", default="fill<", metavar="REGEX", help="functions left out (%(default)s)")
     parser.add_argument("--board", default=BOARD, help="the emulated board (%(default)s)")
     parser.add_argument("--functions", action="store_true", help="tell the functions of each row apart")
     options = parser.parse_args()
-    for row in count(options.image, options.caller, options.untraced, options.board):
+    for row in count(options.image, options.arguments, options.caller, options.untraced, options.board):
         print(f"{row.name}: {row.instructions} instructions, {row.cycles} cycles")
         if options.functions:
             for name, (instructions, cycle_sum) in row.functions.items():
