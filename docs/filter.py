@@ -10,7 +10,9 @@ import re
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-NAMES = dict(re.findall(r"^OPERATION\((\d+), (\w+),", (ROOT / "tests/consumers/operations.inc").read_text(), re.M))
+# Link number, then readable name and arguments.
+ROWS = r"^OPERATION\((\d+), (\w+), .*, (\(.*\))\)$"
+NAMES = {row[0]: row[1:] for row in re.findall(ROWS, (ROOT / "tests/consumers/operations.inc").read_text(), re.M)}
 EXAMPLES = dict(re.findall(r"^## (\w+)\n\n(.*?)(?=^## |\Z)", (ROOT / "docs/examples.md").read_text(), re.M | re.S))
 
 
@@ -23,14 +25,17 @@ def costs():
     return heading[1:], {row[0]: row[1:] for row in rows}
 
 
+def paragraphs(text):
+    """A comment as Markdown, which takes four blanks for code: a line that ends a sentence ends a paragraph."""
+    return re.sub(r"(?<=\.)\n", "\n\n", re.sub(r"^ +", "", text, flags=re.M))
+
+
 def operation(match):
     """A contract and its twins as a group of members under the readable name."""
     contract, declarations = match[1], match[2].replace("QUVEX_NOTHROW ", "")
     numbers = re.findall(r"QUVEX_(\d+)", declarations)
-    name = NAMES[numbers[0]]
-    # Markdown takes four blanks for code, and a line that ends a sentence ends a paragraph.
-    paragraphs = re.sub(r"(?<=\.)\n", "\n\n", re.sub(r"^ +", "", contract, flags=re.M))
-    lines = [f"/** @name {name}", paragraphs, "", f"C++ `quvex::{name}`, C `quvex_{name}`.", ""]
+    name, arguments = NAMES[numbers[0]]
+    lines = [f"/** @name {name}", f"`quvex::{name}{arguments}` in C++, `quvex_{name}{arguments}` in C", "", paragraphs(contract), ""]
     heading, cost = costs()
     if cost:
         lines += ["| | " + " | ".join(heading) + " |", "|---|" + "---|" * len(heading)]
@@ -45,7 +50,7 @@ def section(match):
     title, _, general = match[1].partition(": ")
     general = general and general[0].upper() + general[1:] + "."
     slug = re.sub(r"\W+", "_", title.lower())
-    return f"/** @}} */\n/** @defgroup quvex_{slug} {title}\n{general}\n\n{match[2] or ''}\n@{{ */\n"
+    return f"/** @}} */\n/** @defgroup quvex_{slug} {title}\n{general}\n\n{paragraphs(match[2] or '')}\n@{{ */\n"
 
 
 def main(name):
