@@ -5,8 +5,12 @@
 // It throws no more than they do: where exceptions are on, clang would guard each call of one that might.
 #define QUVEX_INLINE static inline __attribute__((always_inline, nothrow))
 
-// Eight units a turn spare seven of eight branches back. At -Os compilers leave the loop as it stands.
+// Eight units a turn spare seven of eight branches back. At -Os GCC would leave the loop as it stands, clang would not.
+#ifdef __OPTIMIZE_SIZE__
+#define QUVEX_UNROLL
+#else
 #define QUVEX_UNROLL _Pragma("GCC unroll 8")
+#endif
 
 #if defined(__GNUC__) && !defined(__clang__)
 // GCC would turn plain loops into calls of memcpy and strlen, which are not ours to call.
