@@ -1,0 +1,150 @@
+// Every string up to a bound over an alphabet of its interesting units, with every number around it.
+#include <cstdlib>
+
+#include "check.h"
+
+namespace trust {
+namespace {
+
+using namespace std::string_view_literals;
+constexpr int unused = -99;
+enum Number { none, bound, any, radix };
+
+// Each alphabet is written for wide strings; in a narrow one, what does not fit becomes its low byte with the high bit
+// set. The lengths are those of the longest strings, less than the bound by so many.
+struct Family {
+  Op op;
+  Text alphabet;
+  int longest[3];
+  Number n, m;
+};
+
+constexpr Text plain = u"a\u0141b"sv, cased = u"aA\u0141"sv, sorted = u"aA_[\u8061"sv, letters = u"@AZ[`az{\u0141"sv;
+constexpr Text list = u"a,;\u012C"sv, zeros = u"a\0\u80FF"sv;
+
+const Family families[] = {
+    {Op::length, u"a\u0100"sv, {0, unused, unused}, none, none},
+    {Op::copy, plain, {0, unused, unused}, none, none},
+    {Op::copy_bounded, plain, {0, unused, unused}, bound, none},
+    {Op::copy_counted, plain, {0, unused, unused}, bound, none},
+    {Op::append, plain, {0, -1, unused}, none, none},
+    {Op::append_bounded, plain, {-1, -1, unused}, bound, none},
+    {Op::append_counted, plain, {-1, -1, unused}, bound, none},
+    {Op::append_bounded_counted, plain, {-2, -2, unused}, bound, bound},
+    {Op::character_to_lower, plain, {unused, unused, unused}, any, none},
+    {Op::character_to_upper, plain, {unused, unused, unused}, any, none},
+    {Op::to_lower, letters, {0, unused, unused}, none, none},
+    {Op::to_upper, letters, {0, unused, unused}, none, none},
+    {Op::compare, plain, {0, 0, unused}, none, none},
+    {Op::compare_counted, plain, {0, -1, unused}, bound, none},
+    {Op::compare_folded, cased, {0, 0, unused}, none, none},
+    {Op::compare_folded, sorted, {-2, -2, unused}, none, none},
+    {Op::compare_folded_counted, cased, {0, -1, unused}, bound, none},
+    {Op::find_character, list, {-2, unused, unused}, any, none},
+    {Op::find, plain, {0, 0, unused}, none, none},
+    {Op::find_folded, cased, {0, 0, unused}, none, none},
+    {Op::find_folded, sorted, {-2, -3, unused}, none, none},
+    {Op::next_token, list, {0, -4, unused}, bound, none},
+    {Op::split, list, {0, -4, unused}, none, none},
+    {Op::trim, list, {0, -4, unused}, none, none},
+    {Op::replace, plain, {0, -3, -3}, none, none},
+    {Op::to_text, plain, {unused, unused, unused}, any, radix},
+    {Op::to_integer, u" \t-+059\u0135"sv, {0, unused, unused}, none, none},
+    {Op::escape, u" ~\u001F\u007F\u0141\uFFFF"sv, {0, unused, unused}, bound, none},
+    {Op::widen, u"a\u0080\u00FF"sv, {0, unused, unused}, bound, none},
+    {Op::widen_units, u"a\0\u00FF"sv, {0, unused, unused}, bound, none},
+    {Op::copy_units, zeros, {0, unused, unused}, bound, none},
+};
+
+// Null, then every string that continues a start of the alphabet's first unit, up to a length.
+template <class Visit>
+void each_string(Text alphabet, int start, int longest, Visit visit) {
+  visit(Text());
+  char16_t units[room];
+  std::fill_n(units, room, alphabet[0]);
+  const auto extend = [&](const auto& self, int size) -> void {
+    visit(Text(units, size_t(size)));
+    for (size_t i = 0; size < longest && i < alphabet.size(); ++i) {
+      units[size] = alphabet[i];
+      self(self, size + 1);
+    }
+  };
+  if (longest >= start) extend(extend, start);
+}
+
+template <class Visit>
+void each_number(Number kind, const Case& c, Visit visit) {
+  if (kind == none) return visit(0);
+  for (const int32_t extreme : {INT32_MIN, INT32_MIN + 1, INT32_MAX - 1, INT32_MAX}) visit(extreme);
+  const auto range = [&](int from, int to) {
+    for (int i = from; i <= to; ++i) visit(i);
+  };
+  const int size = int(c.text[first].size()), other = c.op < Op::compare ? int(c.text[second].size()) : 0;
+  if (kind == bound) return range(-1, (c.op == Op::escape ? 9 : 1) * size + other + 2);
+  if (kind == radix) return range(-1, 40), range(160, 180), range(250, 260), visit(65537);
+  range(-360, 360);
+  range(65400, 65900);
+  for (int64_t base : {2, 10, 36, 37}) {
+    for (int64_t power = base * base; power < INT32_MAX; power *= base) {
+      for (const int64_t value : {-power, power - 1, power, power + 1}) visit(int32_t(value));
+    }
+  }
+}
+
+struct Tally {
+  long cases = 0, wrong = 0;
+
+  void operator()(Case c) {
+    for (const int place : {0, 1, 2}) {
+      c.provided = place != 0;
+      c.in_place = place == 2;
+      const uint32_t places = uint32_t(cases) * 2654435761u >> 28;  // Each in its turn, without a pattern.
+      c.skew[0] = int(places % 4);
+      c.skew[1] = int(places / 4);
+      const int reach = c.op == Op::copy_units && c.in_place ? 4 : 0;
+      for (c.shift = -reach; c.shift <= reach; ++c.shift) {
+        if (!is_valid(c)) continue;
+        ++cases;
+        if (wrong < 20) wrong += check(c);
+      }
+    }
+  }
+};
+
+void run(const Family& family, bool wide, int start, int longest, Tally& tally) {
+  char16_t units[16];
+  const auto fit = [=](char16_t unit) { return wide || unit < 256 ? unit : char16_t((unit & 0xFF) | 0x80); };
+  const Text alphabet(units,
+                      size_t(std::transform(family.alphabet.begin(), family.alphabet.end(), units, fit) - units));
+  each_string(alphabet, start, longest + family.longest[first], [&](Text a) {
+    each_string(alphabet, start, longest + family.longest[second], [&](Text b) {
+      each_string(alphabet, start, longest + family.longest[third], [&](Text r) {
+        Case c{family.op, wide, {a, b, r}, true, false, 0, {0, 0}, 0, 0};
+        each_number(family.n, c, [&](int32_t n) {
+          c.n = n;
+          each_number(family.m, c, [&](int32_t m) {
+            c.m = m;
+            tally(c);
+          });
+        });
+      });
+    });
+  });
+}
+
+}  // namespace
+}  // namespace trust
+
+int main(int argc, char** argv) {
+  const int longest = argc > 1 ? std::atoi(argv[1]) : 3;
+  trust::Tally tally;
+  for (const trust::Family& family : trust::families) {
+    for (const bool wide : {false, true}) {
+      run(family, wide, 0, longest, tally);
+      // Behind a start that takes an unrolled loop round once.
+      if (family.longest[trust::first] != trust::unused) run(family, wide, 7, longest + 5, tally);
+    }
+  }
+  std::printf("%ld cases up to %d units, %ld wrong\n", tally.cases, longest, tally.wrong);
+  return tally.wrong || !tally.cases;
+}
