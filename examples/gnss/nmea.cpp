@@ -16,12 +16,14 @@ constexpr Layout layouts[] = {
     {"RMC", "VA", 10, 1, 3, 5, 2, 0, 0},
 };
 
-bool all_digits(const char* text) {
+bool consists_of(const char* text, const char* set) {
   for (; *text; ++text) {
-    if (!quvex::find_character("0123456789", *text)) return false;
+    if (!quvex::find_character(set, *text)) return false;
   }
   return true;
 }
+
+bool all_digits(const char* text) { return consists_of(text, "0123456789"); }
 
 // A decimal number without a sign, in units of 10^-places; decimals beyond them are cut off. -1 if it is none, or if
 // the digits before its point are not `least` to `most`. `most` and `places` together are 9 or less, to fit in 32 bits.
@@ -120,12 +122,13 @@ int32_t cut_fields(char* sentence, char** fields, int32_t most) {
 }
 
 const char* read_position(char** fields, int32_t count, Position* position) {
+  // Two letters that name the talker, then the kind; a maker's own sentence has a P in front.
+  const char* address = fields[0];
+  const bool is_standard =
+      quvex::length(address) == 5 && consists_of(address, "ABCDEFGHIJKLMNOPQRSTUVWXYZ") && *address != 'P';
   const Layout* layout = nullptr;
   for (const Layout& known : layouts) {
-    // Two letters name the talker; P begins a maker's own address.
-    if (quvex::length(fields[0]) == 5 && *fields[0] != 'P' && quvex::compare(fields[0] + 2, known.kind) == 0) {
-      layout = &known;
-    }
+    if (is_standard && quvex::compare(address + 2, known.kind) == 0) layout = &known;
   }
   if (!layout) return "no position";
   if (count < layout->count) return "fields missing";

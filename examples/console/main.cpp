@@ -1,0 +1,151 @@
+// A console on the UART: type an operation and its arguments, and see its result and the units that it wrote.
+
+#include "../print.h"
+#include "call.h"
+
+namespace {
+
+struct Line {
+  char text[200];
+  uint32_t length;
+  bool is_cut;   // more came than it holds
+  bool is_last;  // the input ended with it
+};
+
+void rub_out(Line* line) {
+  if (!line->length) return;
+  do {
+    --line->length;
+  } while (line->length && (line->text[line->length] & 0xc0) == 0x80);  // the bytes of one UTF-8 character together
+  line->is_cut = false;
+  print("\b \b");
+}
+
+void put(Line* line, int byte) {
+  if (line->length < sizeof line->text - 1) {
+    line->text[line->length++] = static_cast<char>(byte);
+    board_write(static_cast<char>(byte));
+  } else if (!line->is_cut) {
+    line->is_cut = true;
+    print("\a");
+  }
+}
+
+// What is typed is echoed, as consoles on a serial line do: a terminal is in raw mode meanwhile. So what comes from a
+// pipe shows behind its prompt too.
+void read_line(Line* line) {
+  enum { interrupt = 3, end_of_input = 4, backspace = 8, kill = 21, escape = 27, rubout = 127 };
+  static int byte = 0;       // kept from line to line: a line feed behind a return ends no second line
+  bool is_sequence = false;  // that a cursor key sends
+  line->length = 0;
+  line->is_cut = false;
+  print("> ");
+  while (true) {
+    const int previous = byte;
+    byte = board_read();
+    if (byte == '\n' && previous == '\r') continue;
+    if (byte == '\r' || byte == '\n' || byte == end_of_input) break;
+    if (is_sequence && byte >= ' ') {
+      is_sequence = byte < '@' || byte == '[' || byte == 'O';
+      continue;
+    }
+    is_sequence = byte == escape;
+    if (byte == backspace || byte == rubout) rub_out(line);
+    while (line->length && (byte == kill || byte == interrupt)) rub_out(line);
+    if (byte != rubout && (byte >= ' ' || byte == '\t')) put(line, byte == '\t' ? ' ' : byte);
+  }
+  line->is_last = byte == end_of_input;
+  line->text[line->length] = 0;
+  print("\n");
+}
+
+void print_help() {
+  for (const Operation* operation = operations; operation < operations_end; ++operation) {
+    print(!operation->wide.call ? "       " : operation->narrow.call ? "[wide] " : " wide  ");
+    print(operation->name, " ", operation->parameters, "\n");
+  }
+  print("Texts and numbers come in this order, or as name=value; what stands in brackets may be left out.\n");
+  print("Values: \"text\\x80\\u4e2d\", 'c', a number, null, or another text's name, as in destination=source+1.\n");
+  print("Units: 'c', \\xHH or \\uHHHH, 0 for a terminator, # where the marker \\xa5 or \\ua5a5 still stands.\n");
+}
+
+void print_unit(int32_t unit, bool is_wide) {
+  char text[8] = {'\'', static_cast<char>(unit), '\'', 0};
+  if (unit >= ' ' && unit <= '~') return print(text);
+  if (!unit) return print("0");
+  quvex::to_text((is_wide ? 0x10000 : 0x100) + unit, text, 16);  // The 1 in front keeps leading zeros.
+  print(is_wide ? "\\u" : "\\x", text + 1);
+}
+
+void print_units(const Argument& argument) {
+  int32_t end = Argument::capacity;
+  while (end > 0 && argument.is_marker(end - 1)) --end;
+  print(argument.name, ":");
+  for (int32_t i = 0; i < end + 4 && i < Argument::capacity; ++i) {
+    print(" ");
+    if (argument.is_marker(i)) {
+      print("#");
+    } else {
+      print_unit(argument.unit(i), argument.is_wide());
+    }
+  }
+  print("\n");
+}
+
+void print_place(const Call& call, const void* address) {
+  if (!address) return print("null");
+  for (int32_t i = 0; i < call.form->count; ++i) {
+    const Argument& argument = call.arguments[i];
+    const auto bytes = static_cast<int32_t>(static_cast<const quvex_narrow*>(address) - argument.narrow);
+    if (bytes < 0 || bytes >= 2 * Argument::capacity) continue;
+    return print(argument.name, "+", argument.is_wide() ? bytes / 2 : bytes);
+  }
+  print("a constant empty string");
+}
+
+void run(const Call& call, Argument* arguments) {
+  const Outcome outcome = call.form->call(arguments);
+  if (outcome.kind == Outcome::number) print("result: ", outcome.value, "\n");
+  if (outcome.kind == Outcome::pointer) {
+    print("result: ");
+    print_place(call, outcome.address);
+    print("\n");
+  }
+  for (int32_t i = 0; i < call.form->count; ++i) {
+    const Argument& argument = arguments[i];
+    if (argument.is_null) {
+      if (argument.is_buffer()) print(argument.name, ": null\n");
+      continue;
+    }
+    if (argument.is_buffer()) print_units(*argument.owner);
+    if (argument.kind == Kind::cursor) print("cursor: ", static_cast<int32_t>(argument.cursor), "\n");
+    if (argument.kind == Kind::array) {
+      print("array:");
+      for (int32_t slot = 0; slot < outcome.value; ++slot) {
+        print(" ");
+        print_place(call, argument.slots[slot]);
+      }
+      print("\n");
+    }
+  }
+}
+
+}  // namespace
+
+int main() {
+  static Call call;
+  static Line line;
+  print("Type an operation and its arguments, or help. Ctrl-D ends.\n");
+  do {
+    read_line(&line);
+    quvex::trim(line.text, " ");
+    if (line.is_cut) {
+      print("? the line is longer than 199 characters\n");
+    } else if (quvex::compare_counted(line.text, "help", 4) == 0) {
+      print_help();
+    } else if (*line.text && read_call(line.text, &call)) {
+      run(call, call.arguments);
+    }
+  } while (!line.is_last);
+  board_exit(0);
+}
