@@ -9,7 +9,7 @@ QUVEX_INLINE void string_to_lower(Unit* string) {
   if (!string) return;
   QUVEX_UNROLL
   for (; *string; ++string) {
-    if (*string - 'A' + 0u < 26) *string = static_cast<Unit>(*string + 32);
+    if (*string - uint32_t{'A'} < 26) *string = static_cast<Unit>(*string + 32);
   }
 }
 
@@ -18,7 +18,7 @@ QUVEX_INLINE void string_to_upper(Unit* string) {
   if (!string) return;
   QUVEX_UNROLL
   for (; *string; ++string) {
-    if (*string - 'a' + 0u < 26) *string = static_cast<Unit>(*string - 32);
+    if (*string - uint32_t{'a'} < 26) *string = static_cast<Unit>(*string - 32);
   }
 }
 
