@@ -13,7 +13,11 @@ QUVEX_INLINE Unit* end_of(Unit* string) {
 
 template <class Unit>
 QUVEX_INLINE void append_at_most(Unit* end, const Unit* source, int32_t room) {
-  for (; room > 0 && (*end = *source++); --room) ++end;
+  QUVEX_UNROLL
+  for (; room > 0; --room) {
+    if (!*source) break;
+    *end++ = *source++;
+  }
   *end = 0;
 }
 
@@ -21,8 +25,9 @@ template <class Unit>
 QUVEX_INLINE void append(Unit* destination, const Unit* source) {
   if (!destination || !source) return;
   Unit* end = end_of(destination);
-  while ((*end++ = *source++)) {
-  }
+  QUVEX_UNROLL
+  while (*source) *end++ = *source++;
+  *end = 0;
 }
 
 template <class Unit>

@@ -7,18 +7,20 @@ namespace {
 template <class Unit>
 QUVEX_INLINE void string_to_lower(Unit* string) {
   if (!string) return;
-  QUVEX_UNROLL
-  for (; *string; ++string) {
-    if (*string - uint32_t{'A'} < 26) *string = static_cast<Unit>(*string + 32);
+  QUVEX_ENDLESS(Unit) {
+    const uint32_t unit = *string++;
+    if (!unit) break;
+    if (unit - 'A' < 26) string[-1] = static_cast<Unit>(unit + 32);
   }
 }
 
 template <class Unit>
 QUVEX_INLINE void string_to_upper(Unit* string) {
   if (!string) return;
-  QUVEX_UNROLL
-  for (; *string; ++string) {
-    if (*string - uint32_t{'a'} < 26) *string = static_cast<Unit>(*string - 32);
+  QUVEX_ENDLESS(Unit) {
+    const uint32_t unit = *string++;
+    if (!unit) break;
+    if (unit - 'a' < 26) string[-1] = static_cast<Unit>(unit - 32);
   }
 }
 

@@ -7,10 +7,11 @@ namespace {
 template <class Unit>
 QUVEX_INLINE void copy(Unit* destination, const Unit* source) {
   if (!destination || destination == source) return;
-  *destination = 0;
-  if (!source) return;
-  while ((*destination++ = *source++)) {
+  if (source) {
+    QUVEX_UNROLL
+    while (*source) *destination++ = *source++;
   }
+  *destination = 0;
 }
 
 template <class Unit>
@@ -18,7 +19,11 @@ QUVEX_INLINE void copy_bounded(Unit* destination, int32_t size, const Unit* sour
   if (!destination || destination == source) return;
   if (size <= 0) return;
   if (source) {
-    while (--size && (*destination = *source++)) ++destination;
+    QUVEX_UNROLL
+    for (; size > 1; --size) {
+      if (!*source) break;
+      *destination++ = *source++;
+    }
   }
   *destination = 0;
 }
@@ -28,7 +33,11 @@ QUVEX_INLINE void copy_counted(Unit* destination, const Unit* source, int32_t co
   if (!destination || destination == source) return;
   *destination = 0;
   if (!source) return;
-  for (; count > 0 && (*destination++ = *source++); --count) {
+  QUVEX_UNROLL
+  for (; count > 0; --count) {
+    const Unit unit = *source++;
+    *destination++ = unit;
+    if (!unit) break;
   }
 }
 

@@ -4,59 +4,58 @@
 
 namespace {
 
-enum Fold { as_it_is, folded };
-enum Bound { whole, counted };
-
-template <Fold fold, Bound bound, class Unit>
-QUVEX_INLINE int32_t compare(const Unit* first, const Unit* second, int32_t count = 0) {
+template <bool Fold, class Unit>
+QUVEX_INLINE int32_t compare(const Unit* first, const Unit* second, uintptr_t count) {
   if (first == second) return 0;
   if (!second) return 1;
   if (!first) return -1;
-  if (bound == counted && count <= 0) return 0;
+  const Unit* start = first;
   QUVEX_UNROLL
-  for (int32_t i = 0; true; ++i) {
-    uint32_t a = first[i];
-    uint32_t b = second[i];
-    if (a != b) {
-      if (fold == folded) {
-        a = to_lower(a);
-        b = to_lower(b);
+  for (; count; --count) {
+    uint32_t a = *first++;
+    uint32_t b = *second++;
+    if (__builtin_expect(a != b, 0)) {
+      a = folded<Fold>(a);
+      b = folded<Fold>(b);
+      if (a != b) {
+        const int32_t place = static_cast<int32_t>(first - start);
+        return a > b ? place : -place;
       }
-      if (a > b) return i + 1;
-      if (a < b) return ~i;
     }
     if (!a) break;
-    if (bound == counted && !--count) break;
   }
   return 0;
 }
 
+template <class Unit>
+constexpr uintptr_t endless = UINTPTR_MAX / sizeof(Unit) & ~uintptr_t{7};
+
 }  // namespace
 
 int32_t QUVEX_002008(const quvex_narrow* first, const quvex_narrow* second) {
-  return compare<as_it_is, whole>(first, second);
+  return compare<false>(first, second, endless<quvex_narrow>);
 }
 int32_t QUVEX_002033(const quvex_wide* first, const quvex_wide* second) {
-  return compare<as_it_is, whole>(first, second);
+  return compare<false>(first, second, endless<quvex_wide>);
 }
 
 int32_t QUVEX_002016(const quvex_narrow* first, const quvex_narrow* second, int32_t count) {
-  return compare<as_it_is, counted>(first, second, count);
+  return compare<false>(first, second, count > 0 ? static_cast<uint32_t>(count) : 0);
 }
 int32_t QUVEX_002043(const quvex_wide* first, const quvex_wide* second, int32_t count) {
-  return compare<as_it_is, counted>(first, second, count);
+  return compare<false>(first, second, count > 0 ? static_cast<uint32_t>(count) : 0);
 }
 
 int32_t QUVEX_002012(const quvex_narrow* first, const quvex_narrow* second) {
-  return compare<folded, whole>(first, second);
+  return compare<true>(first, second, endless<quvex_narrow>);
 }
 int32_t QUVEX_002037(const quvex_wide* first, const quvex_wide* second) {
-  return compare<folded, whole>(first, second);
+  return compare<true>(first, second, endless<quvex_wide>);
 }
 
 int32_t QUVEX_002019(const quvex_narrow* first, const quvex_narrow* second, int32_t count) {
-  return compare<folded, counted>(first, second, count);
+  return compare<true>(first, second, count > 0 ? static_cast<uint32_t>(count) : 0);
 }
 int32_t QUVEX_002046(const quvex_wide* first, const quvex_wide* second, int32_t count) {
-  return compare<folded, counted>(first, second, count);
+  return compare<true>(first, second, count > 0 ? static_cast<uint32_t>(count) : 0);
 }

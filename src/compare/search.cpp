@@ -7,28 +7,34 @@ namespace {
 template <class Unit>
 QUVEX_INLINE Unit* find_character(const Unit* string, int32_t character) {
   if (!string) return nullptr;
-  QUVEX_UNROLL
-  for (; *string; ++string) {
-    if (*string == character) return const_cast<Unit*>(string);
+  QUVEX_ENDLESS(Unit) {
+    const int32_t unit = *string++;
+    if (!unit) break;
+    if (unit == character) return const_cast<Unit*>(string - 1);
   }
   return nullptr;
 }
 
-template <bool Fold, class Unit>
-QUVEX_INLINE uint32_t folded(Unit unit) {
-  return Fold ? to_lower(unit) : unit;
+template <bool Fold>
+QUVEX_INLINE bool equal(uint32_t a, uint32_t b) {
+  return a == b || (Fold && same_letter(a, b));
 }
 
 template <bool Fold, class Unit>
 QUVEX_INLINE Unit* find(const Unit* haystack, const Unit* needle) {
   if (!haystack || !needle) return nullptr;
+  const Unit first = *needle;
+  if (*haystack && !first) return const_cast<Unit*>(haystack);
   for (; *haystack; ++haystack) {
-    for (uint32_t k = 0;; ++k) {
-      if (!needle[k]) return const_cast<Unit*>(haystack);
-      if (folded<Fold>(haystack[k]) == folded<Fold>(needle[k])) continue;
-      if (!haystack[k]) return nullptr;
-      break;
-    }
+    if (!equal<Fold>(*haystack, first)) continue;
+    const Unit* rest = haystack;
+    const Unit* expected = needle;
+    do {
+      ++rest;
+      ++expected;
+      if (!*expected) return const_cast<Unit*>(haystack);
+    } while (equal<Fold>(*rest, *expected));
+    if (!*rest) break;
   }
   return nullptr;
 }

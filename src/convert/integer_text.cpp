@@ -11,13 +11,14 @@ QUVEX_INLINE Unit* to_text(int32_t value, Unit* destination, int32_t radix) {
   if (radix <= 0) return destination;
   if (radix == 1 && value) return destination;  // No finite text.
   const uint32_t base = static_cast<uint32_t>(radix);
-  // Negated as unsigned: the least integer has no positive twin.
-  uint32_t magnitude = value < 0 ? 0u - static_cast<uint32_t>(value) : static_cast<uint32_t>(value);
+  uint32_t magnitude = static_cast<uint32_t>(value);
+  if (value < 0) magnitude = 0 - magnitude;  // Negated as unsigned: the least integer has no positive twin.
   Unit* last = destination;
   do {
-    const uint32_t digit = magnitude % base;
-    *last++ = static_cast<Unit>(digit < 10 ? '0' + digit : 'a' - 10 + digit);
+    uint32_t digit = magnitude % base;
     magnitude /= base;
+    if (digit > 9) digit += 'a' - '0' - 10;
+    *last++ = static_cast<Unit>('0' + digit);
   } while (magnitude);
   if (value < 0) *last++ = '-';
   *last = 0;

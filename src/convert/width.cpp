@@ -9,34 +9,36 @@ const quvex_narrow escape_opening[] = "&(0x";
 
 QUVEX_INLINE const quvex_narrow* escape(const quvex_wide* source, quvex_narrow* destination, int32_t size) {
   if (!destination) return empty;
-  *destination = 0;
-  if (!source) return destination;
   quvex_narrow* end = destination;
-  for (; *source; ++source) {
-    uint32_t unit = *source;
-    if (unit - ' ' <= '~' - ' ') {
-      if (size <= 2 - 1) break;
-      --size;
-      *end++ = static_cast<quvex_narrow>(unit);
+  if (source) {
+    for (; *source; ++source) {
+      uint32_t unit = *source;
+      if (unit - ' ' <= '~' - ' ') {
+        if (size <= 1) break;
+        --size;
+        *end++ = static_cast<quvex_narrow>(unit);
+        continue;
+      }
+      quvex_narrow closing[4 + 2];  // Up to 4 digits in front of it.
+      quvex_narrow* digits = closing + 4;
+      digits[0] = ')';
+      digits[1] = 0;
+      do {
+        uint32_t digit = unit & 15;
+        if (digit > 9) digit += 'a' - '0' - 10;
+        *--digits = static_cast<quvex_narrow>('0' + digit);
+        unit >>= 4;
+      } while (unit);
+      const int32_t length = static_cast<int32_t>(closing + 4 - digits) + 5;
+      if (size <= length) break;
+      size -= length;
       *end = 0;
-      continue;
+      QUVEX_002005(end, escape_opening);
+      QUVEX_002005(end, digits);
+      end += length;
     }
-    quvex_narrow digits[4 + 2];
-    quvex_narrow* digit = digits + 4;
-    digit[0] = ')';
-    digit[1] = 0;
-    do {
-      const uint32_t value = unit & 15;
-      *--digit = static_cast<quvex_narrow>(value < 10 ? '0' + value : 'a' - 10 + value);
-      unit >>= 4;
-    } while (unit);
-    const int32_t length = static_cast<int32_t>(digits + 5 - digit) + 4;
-    if (size <= length) break;
-    size -= length;
-    QUVEX_002005(end, escape_opening);
-    QUVEX_002005(end, digit);
-    end += length;
   }
+  *end = 0;
   return destination;
 }
 
@@ -44,7 +46,11 @@ QUVEX_INLINE quvex_wide* widen(const quvex_narrow* source, quvex_wide* destinati
   if (!destination) return nullptr;
   quvex_wide* end = destination;
   if (source) {
-    for (; size > 1 && (*end = *source++); --size) ++end;
+    QUVEX_UNROLL
+    for (; size > 1; --size) {
+      if (!*source) break;
+      *end++ = *source++;
+    }
   }
   *end = 0;
   return destination;

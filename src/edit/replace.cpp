@@ -13,17 +13,16 @@ QUVEX_INLINE int32_t replace(const Unit* source, const Unit* pattern, const Unit
   while (const Unit* occurrence = exported::find(source, pattern)) {
     const int32_t segment = static_cast<int32_t>(occurrence - source);
     if (destination) {
-      exported::copy_counted(destination, source, segment);
-      exported::copy(destination + segment, replacement);
-      destination += segment + replacement_length;
+      exported::copy_counted(destination + result, source, segment);
+      exported::copy(destination + result + segment, replacement);
     }
     result += segment + replacement_length;
     source = occurrence + pattern_length;
   }
-  // The length first: in place, the copy moves what it measures.
-  result += exported::length(source);
-  exported::copy(destination, source);
-  return result;
+  // Measured first: in place, the copy moves what is measured.
+  const int32_t rest = exported::length(source);
+  if (destination) exported::copy(destination + result, source);
+  return result + rest;
 }
 
 }  // namespace

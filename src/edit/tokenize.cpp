@@ -12,13 +12,9 @@ QUVEX_INLINE Unit* next_token(Unit* string, uint32_t* cursor, const Unit* set) {
   while (is_member(set, *token)) ++token;
   Unit* end = token;
   while (*end && !is_member(set, *end)) ++end;
+  if (*end) *end++ = 0;
   *cursor = static_cast<uint32_t>(end - string);
-  if (!*token) return nullptr;
-  if (*end) {
-    *end = 0;
-    ++*cursor;
-  }
-  return token;
+  return end == token ? nullptr : token;
 }
 
 template <class Unit>

@@ -7,15 +7,15 @@ namespace {
 
 template <class Unit>
 QUVEX_INLINE int32_t trim(Unit* string, const Unit* set) {
-  int32_t end = exported::length(string);
-  int32_t start = 0;
+  Unit* end = string + exported::length(string);
+  Unit* start = string;
   if (set) {
-    while (end > 0 && is_member(set, string[end - 1])) --end;
-    string[end] = 0;
-    while (is_member(set, string[start])) ++start;
-    exported::copy(string, string + start);
+    while (end != string && is_member(set, end[-1])) --end;
+    *end = 0;
+    while (is_member(set, *start)) ++start;
+    exported::copy(string, start);
   }
-  return end - start;
+  return static_cast<int32_t>(end - start);
 }
 
 }  // namespace
