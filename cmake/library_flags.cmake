@@ -24,6 +24,16 @@ target_compile_options(quvex PRIVATE
   $<$<CXX_COMPILER_ID:Clang>:-mno-outline>       # likewise for what they share, at -Oz
   $<$<CXX_COMPILER_ID:Clang>:-fsjlj-exceptions>) # no .ARM.exidx, which clang emits even where nothing throws
 
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+  target_compile_options(quvex PRIVATE
+    $<$<CONFIG:MinSizeRel>:-fno-shrink-wrap>       # one way in and out is smaller than a short one past the saved registers
+    $<$<CONFIG:MinSizeRel>:-fno-ivopts>            # a pointer for each use of an index saves time, not bytes
+    $<$<CONFIG:MinSizeRel>:-fno-schedule-insns2>   # the order that is written needs fewer 4-byte instructions
+    $<$<CONFIG:MinSizeRel>:-fno-cse-follow-jumps>  # a constant kept in a register costs more than one made again
+    $<$<CONFIG:Release>:-fno-tree-pre>             # what it computes ahead of a loop's next turn costs a copy in each
+    $<$<CONFIG:Release>:-fno-tree-loop-im>)        # a constant moved out of a loop takes a register that is saved for it
+endif()
+
 # D: no time, user or mode of a member in the archive.
 set(CMAKE_CXX_ARCHIVE_CREATE "<CMAKE_AR> qcD <TARGET> <LINK_FLAGS> <OBJECTS>")
 set(CMAKE_CXX_ARCHIVE_FINISH "<CMAKE_RANLIB> -D <TARGET>")

@@ -22,9 +22,9 @@ QUVEX_INLINE bool equal(uint32_t a, uint32_t b) {
 
 template <bool Fold, class Unit>
 QUVEX_INLINE Unit* find(const Unit* haystack, const Unit* needle) {
-  if (!haystack || !needle) return nullptr;
+  if (!haystack || !needle || !*haystack) return nullptr;
   const Unit first = *needle;
-  if (*haystack && !first) return const_cast<Unit*>(haystack);
+  if (!first) return const_cast<Unit*>(haystack);
   for (; *haystack; ++haystack) {
     if (!equal<Fold>(*haystack, first)) continue;
     const Unit* rest = haystack;
