@@ -27,16 +27,13 @@ QUVEX_INLINE int32_t compare(const Unit* first, const Unit* second, uintptr_t co
   return 0;
 }
 
-template <class Unit>
-constexpr uintptr_t endless = UINTPTR_MAX / sizeof(Unit) & ~uintptr_t{7};
-
 }  // namespace
 
 int32_t QUVEX_002008(const quvex_narrow* first, const quvex_narrow* second) {
-  return compare<false>(first, second, endless<quvex_narrow>);
+  return compare<false>(first, second, QUVEX_TURNS(quvex_narrow));
 }
 int32_t QUVEX_002033(const quvex_wide* first, const quvex_wide* second) {
-  return compare<false>(first, second, endless<quvex_wide>);
+  return compare<false>(first, second, QUVEX_TURNS(quvex_wide));
 }
 
 int32_t QUVEX_002016(const quvex_narrow* first, const quvex_narrow* second, int32_t count) {
@@ -47,10 +44,10 @@ int32_t QUVEX_002043(const quvex_wide* first, const quvex_wide* second, int32_t 
 }
 
 int32_t QUVEX_002012(const quvex_narrow* first, const quvex_narrow* second) {
-  return compare<true>(first, second, endless<quvex_narrow>);
+  return compare<true>(first, second, QUVEX_TURNS(quvex_narrow));
 }
 int32_t QUVEX_002037(const quvex_wide* first, const quvex_wide* second) {
-  return compare<true>(first, second, endless<quvex_wide>);
+  return compare<true>(first, second, QUVEX_TURNS(quvex_wide));
 }
 
 int32_t QUVEX_002019(const quvex_narrow* first, const quvex_narrow* second, int32_t count) {
