@@ -23,6 +23,7 @@ static void expect(int condition, int line) {
 #define EXPECT(condition) expect(condition, __LINE__)
 
 int main(void) {
+  const char byte[] = "\xe9";
   char text[40], *words[4];
   const wide_character end[] = {'e', 0};
   wide_character wide[40];
@@ -54,5 +55,6 @@ int main(void) {
   EXPECT(CALL(compare)(CALL(escape)(wide, text, 40), "idew") == 0);
   CALL(widen_units)("\x80", wide, 1);
   EXPECT(CALL(find_character)(wide, 0x80) == wide);
+  EXPECT(CALL(find_character)(byte, byte[0]) == byte && CALL(character_to_lower)(byte[0]) == 0xe9);
   return failed;
 }
