@@ -6,12 +6,10 @@
 #include "quvex.hpp"
 #define CALL(name) quvex::name
 typedef char16_t wide_character;
-#define WIDE(text) u##text
 #else
 #include "quvex_names.h"
 #define CALL(name) quvex_##name
 typedef uint16_t wide_character;
-#define WIDE(text) ((const uint16_t[]){'w', 'i', 'd', 'e', 0})
 #endif
 
 static int failed;
@@ -25,7 +23,6 @@ static void expect(int condition, int line) {
 int main(void) {
   const char byte[] = "\xe9";
   char text[40], *words[4];
-  const wide_character end[] = {'e', 0};
   wide_character wide[40];
   uint32_t cursor = 0;
   CALL(copy)(text, "One,two");
@@ -48,9 +45,9 @@ int main(void) {
   EXPECT(CALL(next_token)(text, &cursor, ",") == text && cursor == 1);
   EXPECT(CALL(to_integer)(CALL(to_text)(-255, text, 10)) == -255);
   EXPECT(CALL(length)(CALL(widen)("wid", wide, 40)) == 3);
-  CALL(append_counted)(wide, end, 1);
-  EXPECT(CALL(compare)(wide, WIDE("wide")) == 0);
-  CALL(append_bounded_counted)(wide, 6, WIDE("wide"), 4);
+  CALL(append_counted)(wide, u"e", 1);
+  EXPECT(CALL(compare)(wide, u"wide") == 0);
+  CALL(append_bounded_counted)(wide, 6, u"wide", 4);
   CALL(copy_units)(&wide[1], wide, 5);
   EXPECT(CALL(compare)(CALL(escape)(wide, text, 40), "idew") == 0);
   CALL(widen_units)("\x80", wide, 1);
