@@ -11,19 +11,13 @@
 
 constexpr int32_t least = INT32_MIN, greatest = INT32_MAX;
 
-struct WidthName {
-  template <class Unit>
-  static std::string GetName(int) {
-    return sizeof(Unit) == sizeof(quvex_narrow) ? "narrow" : "wide";
-  }
-};
+using Widths = testing::Types<quvex_narrow, quvex_wide>;
 
 // A suite whose tests run once for each width.
-#define TWIN_SUITE(Family)                                         \
-  template <class Unit>                                            \
-  struct Family : testing::Test {};                                \
-  using Family##Widths = testing::Types<quvex_narrow, quvex_wide>; \
-  TYPED_TEST_SUITE(Family, Family##Widths, WidthName)
+#define TWIN_SUITE(Family)          \
+  template <class Unit>             \
+  struct Family : testing::Test {}; \
+  TYPED_TEST_SUITE(Family, Widths, )
 
 template <class Unit, class Cell>
 bool fits(const Cell& cell) {
