@@ -1,5 +1,6 @@
 // Calls every operation, and the C library's counterpart of it, once for each case and length, all from `measured`,
-// whose calls benchmarks/count.py counts. One line is printed for each call. With an argument, one length alone.
+// whose calls benchmarks/count.py counts. One line is printed for each call. Arguments choose a part: `short` one
+// length, `ours` or `theirs` one side.
 
 #include "board.h"
 #include "quvex.h"
@@ -204,12 +205,18 @@ void run(const Case& row, const Function& function, const char* kinds, bool all)
 
 }  // namespace
 
-int main(int argument_count, char**) {
-  const bool all = argument_count < 2;
+int main(int argument_count, char** arguments) {
+  bool all = true, ours = true, theirs = true;
+  while (--argument_count > 0) {
+    const char choice = *arguments[argument_count];
+    if (choice == 's') all = false;
+    if (choice == 'o') theirs = false;
+    if (choice == 't') ours = false;
+  }
   for (const Case& row : cases) {
-    run<quvex_narrow>(row, row.narrow, row.arguments, all);
-    run<quvex_wide>(row, row.wide, row.arguments, all);
-    run<quvex_narrow>(row, row.library, row.library_arguments, all);
+    if (ours) run<quvex_narrow>(row, row.narrow, row.arguments, all);
+    if (ours) run<quvex_wide>(row, row.wide, row.arguments, all);
+    if (theirs) run<quvex_narrow>(row, row.library, row.library_arguments, all);
   }
   board_exit(0);
 }
