@@ -35,13 +35,18 @@ def operation(match):
     contract, declarations = match[1], match[2].replace("QUVEX_NOTHROW ", "")
     numbers = re.findall(r"QUVEX_(\d+)", declarations)
     name, arguments = NAMES[numbers[0]]
-    lines = [f"/** @name {name}", f"`quvex::{name}{arguments}` in C++, `quvex_{name}{arguments}` in C", "", paragraphs(contract), ""]
+    lines = [f"/** @name {name}", f"@anchor operation_{name} `quvex::{name}{arguments}` in C++, `quvex_{name}{arguments}` in C", "", paragraphs(contract), ""]
     heading, cost = costs()
     if cost:
         lines += ["| | " + " | ".join(heading) + " |", "|---|" + "---|" * len(heading)]
         lines += [f"| QUVEX_{number} | " + " | ".join(cost[f"QUVEX_{number}"]) + " |" for number in numbers]
     code, output = re.fullmatch(r"```cpp\n(.*?)```\n```text\n(.*?)```\n*", EXAMPLES[name], re.S).groups()
     lines += ["", "@code{.cpp}", code.rstrip(), "@endcode", "prints", "@code{.unparsed}", output.rstrip(), "@endcode"]
+    # Each twin has a line of its own, so that a search for its link name finds it.
+    twins = ("narrow", "wide") if len(numbers) == 2 else ("only",)
+    for number, twin in zip(numbers, twins):
+        line = f'/** The {twin} @ref operation_{name} "{name}". */\n'
+        declarations = re.sub(rf"^(?=.*QUVEX_{number})", line, declarations, flags=re.M)
     return "\n".join(lines) + f"\n@{{ */\n{declarations}/** @}} */\n"
 
 
