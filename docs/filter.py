@@ -1,28 +1,38 @@
 #!/usr/bin/env python3
-"""What Doxygen reads for a public header: quvex.h with a heading, cost and example for each operation.
+"""What Doxygen reads for a public header: quvex.h with a heading, the cost and an example for each operation.
 
 Doxygen calls it with the header's name; the header itself stays plain text. Of the two headers of readable names, only
 the introduction is passed on: their operations stand with those of quvex.h.
 """
-import csv
 import pathlib
 import re
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
+COMMENT = r"(?:(?!\*/).)*?"
 # Link number, then readable name and arguments.
 ROWS = r"^OPERATION\((\d+), (\w+), .*, (\(.*\))\)$"
 NAMES = {row[0]: row[1:] for row in re.findall(ROWS, (ROOT / "tests/consumers/operations.inc").read_text(), re.M)}
 EXAMPLES = dict(re.findall(r"^## (\w+)\n\n(.*?)(?=^## |\Z)", (ROOT / "docs/examples.md").read_text(), re.M | re.S))
 
 
-def costs():
-    """What scripts/report measured: link name, then columns under their own headings. Empty before it has run."""
-    file = ROOT / "docs/costs.csv"
-    if not file.exists():
-        return [], {}
-    heading, *rows = csv.reader(line for line in file.open() if not line.startswith("#"))
-    return heading[1:], {row[0]: row[1:] for row in rows}
+def table(heading):
+    """The table below a heading of the measurements: its first column, then the others under their own headings."""
+    text = (ROOT / "docs/measurements.md").read_text().split(f" {heading}\n", 1)[1]
+    head, _, *rows = ([cell.strip(" `") for cell in line.strip("|").split("|")]
+                      for line in re.search(r"(^\|.*\n)+", text, re.M)[0].splitlines())
+    return {row[0]: [(name, cell) for name, cell in zip(head, row)][1:] for row in rows}
+
+
+BYTES, INSTRUCTIONS = table("Flash and stack of each operation"), table("Instructions")
+
+
+def cost(name, twin):
+    """Flash, stack and instructions of one twin, built for size and for speed by GCC."""
+    kept = dict(BYTES.get(f"{name}, {twin}") or BYTES[name])
+    cells = [cell for _, cell in INSTRUCTIONS[name][:4] if cell != "–"]  # narrow and wide for speed, then for size
+    speed, size = cells[twin == "wide"::len(cells) // 2]
+    return [kept["gcc size"], kept["gcc speed"], kept["stack: gcc size"], kept["stack: gcc speed"], size, speed]
 
 
 def paragraphs(text):
@@ -36,14 +46,13 @@ def operation(match):
     numbers = re.findall(r"QUVEX_(\d+)", declarations)
     name, arguments = NAMES[numbers[0]]
     lines = [f"/** @name {name}", f"@anchor operation_{name} `quvex::{name}{arguments}` in C++, `quvex_{name}{arguments}` in C", "", paragraphs(contract), ""]
-    heading, cost = costs()
-    if cost:
-        lines += ["| | " + " | ".join(heading) + " |", "|---|" + "---|" * len(heading)]
-        lines += [f"| QUVEX_{number} | " + " | ".join(cost[f"QUVEX_{number}"]) + " |" for number in numbers]
+    twins = ("narrow", "wide") if len(numbers) == 2 else ("only",)
+    lines += ["Measured on a Cortex-M4, built by GCC for size and for speed; for n units of text."]
+    lines += ["", "| | bytes: size | speed | stack: size | speed | instructions: size | speed |", "|---|" + "---|" * 6]
+    lines += [f"| {twin} | " + " | ".join(cost(name, twin)) + " |" for twin in twins]
     code, output = re.fullmatch(r"```cpp\n(.*?)```\n```text\n(.*?)```\n*", EXAMPLES[name], re.S).groups()
     lines += ["", "@code{.cpp}", code.rstrip(), "@endcode", "prints", "@code{.unparsed}", output.rstrip(), "@endcode"]
     # Each twin has a line of its own, so that a search for its link name finds it.
-    twins = ("narrow", "wide") if len(numbers) == 2 else ("only",)
     for number, twin in zip(numbers, twins):
         line = f'/** The {twin} @ref operation_{name} "{name}". */\n'
         declarations = re.sub(rf"^(?=.*QUVEX_{number})", line, declarations, flags=re.M)
@@ -51,11 +60,13 @@ def operation(match):
 
 
 def section(match):
-    """A family as a topic: its title, and what holds for all of it."""
+    """A family as a topic: its title, what holds for all of it, its operations."""
     title, _, general = match[1].partition(": ")
     general = general and general[0].upper() + general[1:] + "."
-    slug = re.sub(r"\W+", "_", title.lower())
-    return f"/** @}} */\n/** @defgroup quvex_{slug} {title}\n{general}\n\n{paragraphs(match[2] or '')}\n@{{ */\n"
+    names = dict.fromkeys(re.findall(r"@anchor operation_(\w+)", match[3]))
+    links = ", ".join(f'@ref operation_{name} "{name}"' for name in names)
+    return (f"/** @defgroup quvex_{re.sub(r'[^a-z]+', '_', title.lower())} {title}\n{general}\n\n"
+            f"{paragraphs(match[2] or '')}\n\n{links}\n@{{ */\n{match[3]}/** @}} */\n")
 
 
 def main(name):
@@ -63,10 +74,10 @@ def main(name):
     if pathlib.Path(name).name != "quvex.h":
         print(re.match(r"/\*\*.*?\*/", text, re.S)[0])
         return
-    text = re.sub(r"/\*\* ((?:(?!\*/).)*?) ?\*/\n((?:QUVEX_NOTHROW [^;]*;\n)+)", operation, text, flags=re.S)
-    text = re.sub(r"/\* ---- (.*?) ----(?:\n\n(.*?))? ?\*/\n", section, text, flags=re.S)
-    text = text.replace("/** @} */\n/** @defgroup", "/** @defgroup", 1)
-    print(re.sub(r"(#ifdef __cplusplus\n\}\n)", r"/** @} */\n\1", text))
+    text = re.sub(rf"/\*\* ({COMMENT}) ?\*/\n((?:QUVEX_NOTHROW [^;]*;\n)+)", operation, text, flags=re.S)
+    text = re.sub(rf"/\* ---- ({COMMENT}) ----(?:\n\n({COMMENT}))? ?\*/\n(.*?)(?=/\* ----|#ifdef __cplusplus\n\}})", section,
+                  text, flags=re.S)
+    print(text)
 
 
 main(sys.argv[1])
