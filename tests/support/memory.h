@@ -7,11 +7,7 @@
 // Pages that a test opens one by one, each between two that stay closed: an access that is not allowed ends the program.
 enum class Access { none, read, write };
 constexpr int pages = 4;
-#ifdef __unix__
-constexpr std::size_t page_size = 16384;  // as large as the system's own, or larger
-#else
-constexpr std::size_t page_size = 1024;
-#endif
+constexpr std::size_t page_size = 16384;         // a multiple of any system's own
 uint8_t* protect_page(int page, Access access);  // Returns its start.
 
 // The state of the running row.
