@@ -6,6 +6,4 @@ set(CMAKE_CXX_COMPILER arm-none-eabi-g++)
 set(CMAKE_C_FLAGS_INIT "-mcpu=${BOARD_CORE} -mthumb -mfloat-abi=soft")
 set(CMAKE_CXX_FLAGS_INIT "${CMAKE_C_FLAGS_INIT}")
 set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)  # a bare image needs a linker script
-set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)  # the host's libraries are not this target's
-set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../scripts/emulate -M ${BOARD_MACHINE})
