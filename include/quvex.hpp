@@ -59,10 +59,6 @@ template <class Argument>
 struct pointee {
   using type = void;
 };
-template <class Argument>
-struct pointee<const Argument> : pointee<Argument> {};
-template <class Argument>
-struct pointee<Argument&> : pointee<Argument> {};
 template <class Type>
 struct pointee<Type*> {
   using type = Type;
