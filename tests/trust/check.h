@@ -12,7 +12,7 @@ namespace trust {
 inline int check(const Case& c) {
   const State start = before(c);
   const Expectation expected = expect(c, start);
-  footprint = {c.op, {}, {}, false, false};
+  footprint = {c.op, {}, {}, false, false, c.skew[0] + int(c.text[first].size()), false, false};
   const State state = after(start, c);
   const char* wrong = nullptr;
   if (state.result != expected.state.result || state.cursor != expected.state.cursor) wrong = "the result or cursor";
@@ -24,6 +24,7 @@ inline int check(const Case& c) {
     if (expected.needed[slot] & ~read) wrong = "a unit passed over unread";
     if (written & ~expected.writable[slot]) wrong = "a unit written beyond the contract";
   }
+  if (footprint.again && (c.op == Op::find || c.op == Op::find_folded)) wrong = "a search on from the end";
   if (footprint.stray) wrong = "an access outside every argument";
   if (footprint.broad) wrong = "an access wider than a unit";
 #endif

@@ -11,6 +11,8 @@ static void record(const void* address, unsigned size, bool store) {
     const uintptr_t from = offset / unit, to = (offset + size - 1) / unit;
     if (to >= room) footprint.stray = true;
     if (size > unit && footprint.op != Op::widen_units && footprint.op != Op::copy_units) footprint.broad = true;
+    if (slot == first && !store) footprint.again |= footprint.ended && int(from) < footprint.end;
+    if (slot == first && !store) footprint.ended |= int(from) == footprint.end;
     for (uintptr_t i = from; i <= to; ++i)
       (store ? footprint.written : footprint.read)[slot] |= uint64_t{1} << i % room;
   };

@@ -90,6 +90,8 @@ struct Footprint {
   Op op;
   uint64_t read[cursor + 1], written[cursor + 1];
   bool stray, broad;
+  int end;            // Where the first text's terminator stands.
+  bool ended, again;  // It has been read; then a unit before it was.
 };
 inline Footprint footprint;
 
