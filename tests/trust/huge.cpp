@@ -75,6 +75,7 @@ int main(int argc, char**) {
   expect("escape", QUVEX_002014(narrow_out), count - 1);
   QUVEX_002001(narrow_out, out, count - 1);
   expect("widen", QUVEX_002039(out), count - 2);
+  out[count] = 0;
   QUVEX_002028(wide, out, count);
   expect("copy_units", QUVEX_002039(out), count);
   out[count - 1] = 'b';
