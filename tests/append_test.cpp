@@ -22,7 +22,7 @@ TYPED_TEST(Append, FollowsTheTextWithinASizeAndACount) {
           {u"ab", greatest, u""_u, 0, u"ab"},
           {u"ab", greatest, u"cd"_u, 1, u"abc"},
           {u"ab", 9, u"cd", 2, u"abcd"},
-          {u"a\x100", greatest, u"\x80\xFFFF", greatest, u"a\x100\x80\xFFFF"},
+          {u"a\x100", greatest, u"\x200\xFFFF", greatest, u"a\x100\x200\xFFFF"},
       },
       [](const Text& before, int32_t size, const Text& text, int32_t count, const Text& after) {
         Source<TypeParam> source(text);

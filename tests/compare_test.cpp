@@ -30,6 +30,7 @@ TYPED_TEST(Compare, TellsTheOrderAndThePlaceWithinACount) {
           {u""_u, u""_u, least, 0, 0},
           {u""_u, u""_u, -1, 0, 0},
           {u""_u, u""_u, 0, 0, 0},
+          {u"b"_u, u"a"_u, 1, 1, 1},
           {u"AB"_u, u"ab"_u, 2, -1, 0},
           {u"abd"_u, u"abc"_u, 3, 3, 3},
           {run + u"c", run + u"b", 300, 0, 0},

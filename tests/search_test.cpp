@@ -34,7 +34,7 @@ TYPED_TEST(Search, FindsTheLeftmostOccurrence) {
           {u"@[`{", u"`", 2, 2},
           {u"@[`{", u"{", 3, 3},
           {u"\xC0\xE0", u"\xE0", 1, 1},
-          {u"\x100\x141\x100\x161", u"\x100\x161", 2, 2},
+          {u"\x100\x141\x200y\x100\x161\x200z\x100\x161\x200y", u"\x100\x161\x200y", 8, 8},
           {u"\x141", u"a", -1, -1},
           {std::u16string(300, u'x') + u"y", u"y", 300, 300},
       },
