@@ -17,7 +17,7 @@ QUVEX_INLINE int32_t compare(const Unit* first, const Unit* second, uintptr_t co
     if (__builtin_expect(a != b, 0)) {
       a = folded<Fold>(a);
       b = folded<Fold>(b);
-      if (a != b) {
+      if (!Fold || a != b) {
         const int32_t place = static_cast<int32_t>(first - start);
         return a > b ? place : -place;
       }

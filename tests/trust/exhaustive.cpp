@@ -19,7 +19,7 @@ struct Family {
   Number n, m;
 };
 
-constexpr Text plain = u"a\u0141b"sv, cased = u"aA\u0141"sv, sorted = u"aA_[\u8061"sv, letters = u"@AZ[`az{\u0141"sv;
+constexpr Text plain = u"a\u0141b"sv, cased = u"aA\u0141"sv, sorted = u"aA[{\u8061"sv, letters = u"@AZ[`az{\u0141"sv;
 constexpr Text list = u"a,;\u812C"sv, zeros = u"a\0\u80FF"sv;
 
 const Family families[] = {
