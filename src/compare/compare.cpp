@@ -27,6 +27,8 @@ QUVEX_INLINE int32_t compare(const Unit* first, const Unit* second, uintptr_t co
   return 0;
 }
 
+QUVEX_INLINE uintptr_t turns(int32_t count) { return count > 0 ? static_cast<uint32_t>(count) : 0; }
+
 }  // namespace
 
 int32_t QUVEX_002008(const quvex_narrow* first, const quvex_narrow* second) {
@@ -37,10 +39,10 @@ int32_t QUVEX_002033(const quvex_wide* first, const quvex_wide* second) {
 }
 
 int32_t QUVEX_002016(const quvex_narrow* first, const quvex_narrow* second, int32_t count) {
-  return compare<false>(first, second, count > 0 ? static_cast<uint32_t>(count) : 0);
+  return compare<false>(first, second, turns(count));
 }
 int32_t QUVEX_002043(const quvex_wide* first, const quvex_wide* second, int32_t count) {
-  return compare<false>(first, second, count > 0 ? static_cast<uint32_t>(count) : 0);
+  return compare<false>(first, second, turns(count));
 }
 
 int32_t QUVEX_002012(const quvex_narrow* first, const quvex_narrow* second) {
@@ -51,8 +53,8 @@ int32_t QUVEX_002037(const quvex_wide* first, const quvex_wide* second) {
 }
 
 int32_t QUVEX_002019(const quvex_narrow* first, const quvex_narrow* second, int32_t count) {
-  return compare<true>(first, second, count > 0 ? static_cast<uint32_t>(count) : 0);
+  return compare<true>(first, second, turns(count));
 }
 int32_t QUVEX_002046(const quvex_wide* first, const quvex_wide* second, int32_t count) {
-  return compare<true>(first, second, count > 0 ? static_cast<uint32_t>(count) : 0);
+  return compare<true>(first, second, turns(count));
 }
