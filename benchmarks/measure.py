@@ -19,7 +19,6 @@ WIDE = {name for name in FIFTY if re.search(rf"\b{name}\([^)q]*quvex_wide", HEAD
 GNU = "arm-none-eabi-"
 CORE = ["-mcpu=cortex-m4", "-mthumb", "-mfloat-abi=soft"]
 BUILDS = ("gcc size", "gcc speed", "clang size", "clang speed")
-PRESETS = {"gcc size": "target", "gcc speed": "target-speed"}
 LIBRARIES = ("newlib", "newlib-nano", "picolibc")
 
 Measured = collections.namedtuple("Measured", "instructions cycles")
@@ -41,19 +40,10 @@ def build(name, *targets):
     """One of BUILDS, by the library's own CMake target; the compiler also notes each function's stack."""
     folder = folder_of(name)
     compiler, kind = name.split()
-    if compiler == "gcc":
-        options = ["--preset", PRESETS[name]]
-    else:
-        options = ["-S", ROOT, "-G", "Ninja", "-DCMAKE_SYSTEM_NAME=Generic", "-DCMAKE_SYSTEM_PROCESSOR=arm",
-                   "-DCMAKE_TRY_COMPILE_TARGET_TYPE=STATIC_LIBRARY",
-                   "-DCMAKE_BUILD_TYPE=" + {"size": "MinSizeRel", "speed": "Release"}[kind],
-                   "-DCMAKE_CXX_FLAGS_RELEASE=-O2"]
-        for language, command in (("C", "clang"), ("CXX", "clang++")):
-            options += [f"-DCMAKE_{language}_COMPILER={command}",
-                        f"-DCMAKE_{language}_COMPILER_TARGET=thumbv7em-none-eabi",
-                        f"-DCMAKE_{language}_FLAGS=-mcpu=cortex-m4 -fstack-usage"]
-    environment = {**os.environ, "CXXFLAGS": "-fstack-usage" if compiler == "gcc" else ""}
-    run("cmake", *options, "-B", folder, "-DBUILD_TESTING=OFF", cwd=ROOT, env=environment)
+    preset = {"size": "target", "speed": "target-speed"}[kind]
+    other = ["--toolchain", ROOT / "cmake/cortex-m4-clang.cmake"] if compiler == "clang" else []
+    run("cmake", "--preset", preset, *other, "-B", folder, "-DBUILD_TESTING=OFF", cwd=ROOT,
+        env={**os.environ, "CXXFLAGS": "-fstack-usage"})
     run("cmake", "--build", folder, "--target", "quvex", *targets)
 
 
