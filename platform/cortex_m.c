@@ -8,18 +8,21 @@ extern uint32_t board_stack_top[];
 static volatile uint32_t* device(uint32_t address) { return (volatile uint32_t*)address; }
 
 enum { UART_DATA, UART_STATE, UART_CONTROL, UART_DIVIDER = 4 };
+enum { UART_TRANSMITTER = 1, UART_RECEIVER = 2 }; /* in control: on; in state: full */
 
 int board_read(void) {
-  while (!(device(BOARD_UART)[UART_STATE] & 2)) {
+  while (!(device(BOARD_UART)[UART_STATE] & UART_RECEIVER)) {
   }
   return (int)(device(BOARD_UART)[UART_DATA] & 0xff);
 }
 
 void board_write(char character) {
-  while (device(BOARD_UART)[UART_STATE] & 1) {
+  while (device(BOARD_UART)[UART_STATE] & UART_TRANSMITTER) {
   }
   device(BOARD_UART)[UART_DATA] = (unsigned char)character;
 }
+
+enum { SEMIHOST_COMMAND_LINE = 0x15, SEMIHOST_EXIT = 0x20 };
 
 static int semihost(int operation, const void* parameters) {
   register int r0 __asm__("r0") = operation;
@@ -30,7 +33,7 @@ static int semihost(int operation, const void* parameters) {
 
 void board_exit(int status) {
   const uint32_t application_exit[] = {0x20026, (uint32_t)status};
-  for (;;) semihost(0x20, application_exit);
+  for (;;) semihost(SEMIHOST_EXIT, application_exit);
 }
 
 #define SYSTEM_CONTROL 0xe000ed00
@@ -47,16 +50,17 @@ void board_protect(int area, const volatile void* address, uint32_t size, enum b
   /* This MPU cannot refuse every access, but two regions that overlap do: each area has two. */
   for (uint32_t twin = 0; twin < 2; ++twin) {
     *MPU_NUMBER = 2 * (uint32_t)area + twin;
-    *MPU_BASE = base | 2 << 1 | 1;
+    *MPU_BASE = base | 2 << 1 | 1; /* read only, execute never */
     *MPU_LIMIT = (base + size - 32) | (access > BOARD_ACCESS_ALL + (enum board_access)twin);
   }
 #else
   const uint32_t read_only = access == BOARD_ACCESS_READ ? 5u << 24 : 0;
   *MPU_NUMBER = (uint32_t)area;
   *MPU_BASE = base;
+  /* Execute never; the size as its logarithm less one. */
   *MPU_LIMIT = 1u << 28 | read_only | (30u - (uint32_t)__builtin_clz(size)) << 1 | (access != BOARD_ACCESS_ALL);
 #endif
-  *MPU_CONTROL = 5;
+  *MPU_CONTROL = 5; /* on, and all else as without it */
   __asm__ volatile("dsb\n\tisb" ::: "memory");
 }
 
@@ -81,12 +85,11 @@ static int split_arguments(char* line, char** arguments, int limit) {
 
 int board_open(char** arguments, int limit) {
   device(BOARD_UART)[UART_DIVIDER] = 217; /* 115,200 baud at 25 MHz */
-  device(BOARD_UART)[UART_CONTROL] = 3;
+  device(BOARD_UART)[UART_CONTROL] = UART_TRANSMITTER | UART_RECEIVER;
 
-  static char line[512];
+  static char line[1024];
   const uint32_t command_line[] = {(uint32_t)line, sizeof line};
-  semihost(0x15, command_line);
-  return split_arguments(line, arguments, limit);
+  return semihost(SEMIHOST_COMMAND_LINE, command_line) == 0 ? split_arguments(line, arguments, limit) : 0;
 }
 
 void board_reset(void) { board_run(); }
