@@ -11,7 +11,7 @@ namespace trust {
 // 1, and a line that says what is wrong, if a call leaves anything but what it must or touches what it must not.
 inline int check(const Case& c) {
   const State start = before(c);
-  const Expectation expected = expect(c, start);
+  const Expectation expected(c, start);
   footprint = {c.op, {}, {}, false, false, c.skew[0] + int(c.text[first].size()), false, false};
   const State state = after(start, c);
   const char* wrong = nullptr;

@@ -18,7 +18,6 @@ struct Decoder {
     if (selector < 0xD0) return static_cast<int32_t>(selector % 52) - 3;
     uint32_t value = 0;
     for (int i = 0; i < 4; ++i) value = value << 8 | byte();
-    if (selector < 0xE0) value = INT32_MAX + (value & 1);
     return static_cast<int32_t>(selector < 0xF0 ? value : value & 0xFF);
   }
 

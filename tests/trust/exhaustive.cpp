@@ -23,37 +23,7 @@ constexpr Text plain = u"a\u0141b"sv, cased = u"aA\u0141"sv, sorted = u"aA[{\u80
 constexpr Text list = u"a,;\u812C"sv, zeros = u"a\0\u80FF"sv;
 
 const Family families[] = {
-    {Op::length, u"a\u0100"sv, {0, unused, unused}, none, none},
-    {Op::copy, plain, {0, unused, unused}, none, none},
-    {Op::copy_bounded, plain, {0, unused, unused}, bound, none},
-    {Op::copy_counted, plain, {0, unused, unused}, bound, none},
-    {Op::append, plain, {0, -1, unused}, none, none},
-    {Op::append_bounded, plain, {-1, -1, unused}, bound, none},
-    {Op::append_counted, plain, {-1, -1, unused}, bound, none},
-    {Op::append_bounded_counted, plain, {-2, -2, unused}, bound, bound},
-    {Op::character_to_lower, plain, {unused, unused, unused}, any, none},
-    {Op::character_to_upper, plain, {unused, unused, unused}, any, none},
-    {Op::to_lower, letters, {0, unused, unused}, none, none},
-    {Op::to_upper, letters, {0, unused, unused}, none, none},
-    {Op::compare, cased, {0, 0, unused}, none, none},
-    {Op::compare_counted, cased, {0, -1, unused}, bound, none},
-    {Op::compare_folded, cased, {0, 0, unused}, none, none},
-    {Op::compare_folded, sorted, {-2, -2, unused}, none, none},
-    {Op::compare_folded_counted, cased, {0, -1, unused}, bound, none},
-    {Op::find_character, list, {-2, unused, unused}, any, none},
-    {Op::find, cased, {0, 0, unused}, none, none},
-    {Op::find_folded, cased, {0, 0, unused}, none, none},
-    {Op::find_folded, sorted, {-2, -3, unused}, none, none},
-    {Op::next_token, list, {0, -4, unused}, bound, none},
-    {Op::split, list, {0, -4, unused}, none, none},
-    {Op::trim, list, {0, -4, unused}, none, none},
-    {Op::replace, plain, {0, -3, -3}, none, none},
-    {Op::to_text, plain, {unused, unused, unused}, any, radix},
-    {Op::to_integer, u" \t-+059\u0135"sv, {0, unused, unused}, none, none},
-    {Op::escape, u" ~\u001F\u007F\u0141\uFFFF"sv, {0, unused, unused}, bound, none},
-    {Op::widen, u"a\u0080\u00FF"sv, {0, unused, unused}, bound, none},
-    {Op::widen_units, u"a\0\u00FF"sv, {0, unused, unused}, bound, none},
-    {Op::copy_units, zeros, {0, unused, unused}, bound, none},
+#include "families.def"
 };
 
 // Null, then every string that continues a start of the alphabet's first unit, up to a length.

@@ -10,49 +10,22 @@
 // before and after it.
 namespace trust {
 
-// Each operation with its twins, its arguments, and whether it takes a destination, cursor or array, and may work in place.
-#define QUVEX_OPERATIONS(X)                                             \
-  X(length, 002014, 002039, (x), 0, 0)                                  \
-  X(copy, 002009, 002034, (out, x), 1, 1)                               \
-  X(copy_bounded, 002010, 002035, (out, c.n, x), 1, 1)                  \
-  X(copy_counted, 002017, 002044, (out, x, c.n), 1, 1)                  \
-  X(append, 002005, 002030, (y, x), 0, 0)                               \
-  X(append_bounded, 002006, 002031, (y, c.n, x), 0, 0)                  \
-  X(append_counted, 002041, 002041, (y, x, c.n), 0, 0)                  \
-  X(append_bounded_counted, 002042, 002042, (y, c.n, x, c.m), 0, 0)     \
-  X(character_to_lower, 002026, 002026, (c.n), 0, 0)                    \
-  X(character_to_upper, 002027, 002027, (c.n), 0, 0)                    \
-  X(to_lower, 002015, 002040, (x), 0, 0)                                \
-  X(to_upper, 002025, 002052, (x), 0, 0)                                \
-  X(compare, 002008, 002033, (x, other), 0, 1)                          \
-  X(compare_counted, 002016, 002043, (x, other, c.n), 0, 1)             \
-  X(compare_folded, 002012, 002037, (x, other), 0, 1)                   \
-  X(compare_folded_counted, 002019, 002046, (x, other, c.n), 0, 1)      \
-  X(find_character, 002007, 002032, (x, c.n), 0, 0)                     \
-  X(find, 002022, 002049, (x, y), 0, 0)                                 \
-  X(find_folded, 002013, 002038, (x, y), 0, 0)                          \
-  X(next_token, 002023, 002050, (x, provided(&memory.cursor), y), 1, 0) \
-  X(split, 002021, 002048, (x, y, provided(memory.array)), 1, 0)        \
-  X(trim, 002024, 002051, (x, y), 0, 0)                                 \
-  X(replace, 002020, 002047, (x, y, z, out), 1, 1)                      \
-  X(to_text, 002003, 002004, (c.n, out, c.m), 1, 0)                     \
-  X(to_integer, 002000, 002053, (x), 0, 0)                              \
-  X(escape, 002029, 002029, (x, out, c.n), 1, 0)                        \
-  X(widen, 002001, 002001, (x, out, c.n), 1, 0)                         \
-  X(widen_units, 002002, 002002, (x, out, c.n), 1, 0)                   \
-  X(copy_units, 002028, 002028, (x, out, c.n), 1, 1)
-
-#define QUVEX_NAME(name, narrow, wide, arguments, provides, places) name,
-enum class Op : uint8_t { QUVEX_OPERATIONS(QUVEX_NAME) end };
-#undef QUVEX_NAME
+#define OPERATION(name, narrow, wide, arguments, provides, places) name,
+enum class Op : uint8_t {
+#include "operations.def"
+  end
+};
+#undef OPERATION
 
 struct Traits {
   const char* name;
   bool twins, provides, places;
 };
-#define QUVEX_TRAITS(name, narrow, wide, arguments, provides, places) {#name, 1##narrow != 1##wide, provides, places},
-constexpr Traits traits[] = {QUVEX_OPERATIONS(QUVEX_TRAITS)};
-#undef QUVEX_TRAITS
+#define OPERATION(name, narrow, wide, arguments, provides, places) {#name, 1##narrow != 1##wide, provides, places},
+constexpr Traits traits[] = {
+#include "operations.def"
+};
+#undef OPERATION
 
 using Text = std::u16string_view;  // The values of a string's units; no data is a null string.
 enum Slot { first, second, third, destination, array, cursor };
@@ -157,15 +130,15 @@ inline Result invoke(const Case& c) {
   const auto text = [&](int slot, int index) { return Pointer{c.text[slot].data() ? at(slot, index) : nullptr}; };
   const Pointer x = text(first, c.skew[0]), y = text(second, 0), z = text(third, 0), other = c.in_place ? x : y;
   const Pointer out = provided(c.in_place ? at(first, c.skew[0] + c.shift) : at(destination, c.skew[1]));
-#define QUVEX_CALL(name, narrow, twin, arguments, provides, places) \
-  case Op::name:                                                    \
+#define OPERATION(name, narrow, twin, arguments, provides, places) \
+  case Op::name:                                                   \
     return c.wide ? (QUVEX_##twin arguments, Result{}) : (QUVEX_##narrow arguments, Result{});
   switch (c.op) {
-    QUVEX_OPERATIONS(QUVEX_CALL)
+#include "operations.def"
     case Op::end:
       break;
   }
-#undef QUVEX_CALL
+#undef OPERATION
   return {};
 }
 
