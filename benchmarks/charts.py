@@ -6,12 +6,12 @@ matplotlib.rcParams.update({"svg.hashsalt": "quvex",  # the same file again
                             "font.family": "DejaVu Sans", "font.size": 10})
 import matplotlib.pyplot as plot  # noqa: E402
 
-# Colour, marker, size, order of drawing.
+# Colour, marker, size, order of drawing: a smaller dot in front of a larger one that it would share its place with.
 STYLES = {
-    "Quvex": ("#0b5cad", "o", 78, 5),
-    "Quvex, built for size": ("#7db4e6", "o", 46, 4),
-    "picolibc": ("#d9822b", "D", 34, 3),
-    "newlib": ("#8a8f98", "s", 30, 2),
+    "Quvex": ("#0b5cad", "o", 90, 2),
+    "Quvex, built for size": ("#7db4e6", "o", 46, 3),
+    "picolibc": ("#e08a2e", "D", 24, 5),
+    "newlib": ("#8a8f98", "s", 34, 4),
 }
 
 
