@@ -124,7 +124,9 @@ def trace(image, arguments, board, ranges, output):
             yield from re.findall(rb"\[\w+/(\w+)/", head)
             rest = tail
     if emulator.wait():
-        raise Failure(f"{image}: the emulated run ended with status {emulator.returncode}")
+        output.seek(0)
+        printed = output.read().decode(errors="replace").splitlines()[-3:]
+        raise Failure("\n".join([f"{image}: the emulated run ended with status {emulator.returncode}", *printed]))
 
 
 def count(image, arguments=(), caller="measured", untraced="fill<", board=BOARD):
@@ -181,5 +183,5 @@ def main():
 if __name__ == "__main__":
     try:
         main()
-    except Failure as failure:
+    except (Failure, OSError) as failure:
         sys.exit(f"count.py: {failure}")

@@ -272,7 +272,7 @@ def main(option=""):
         if option == "--check":
             sys.exit(not check(Figures(GCC, SHORT_RUNS)))
         write(Figures(measure.BUILDS, RUNS), option == "--record")
-    except Failure as failure:
+    except (Failure, OSError) as failure:
         sys.exit(f"report: {failure}")
 
 
