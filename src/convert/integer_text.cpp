@@ -11,8 +11,9 @@ QUVEX_INLINE Unit* to_text(int32_t value, Unit* destination, int32_t radix) {
   if (radix <= 0) return destination;
   if (radix == 1 && value) return destination;  // No finite text.
   const uint32_t base = static_cast<uint32_t>(radix);
+  const bool negative = value < 0;
   uint32_t magnitude = static_cast<uint32_t>(value);
-  if (value < 0) magnitude = 0 - magnitude;  // Negated as unsigned: the least integer has no positive twin.
+  if (negative) magnitude = 0 - magnitude;  // Negated as unsigned: the least integer has no positive twin.
   Unit* last = destination;
   do {
     uint32_t digit = magnitude % base;
@@ -20,7 +21,7 @@ QUVEX_INLINE Unit* to_text(int32_t value, Unit* destination, int32_t radix) {
     if (digit > 9) digit += 'a' - '0' - 10;
     *last++ = static_cast<Unit>('0' + digit);
   } while (magnitude);
-  if (value < 0) *last++ = '-';
+  if (negative) *last++ = '-';
   *last = 0;
   for (Unit* first = destination; first < --last; ++first) {
     const Unit unit = *first;
