@@ -110,8 +110,10 @@ def figures_block(figures):
     """What the README shows."""
     stack = figures.stack["gcc size"].values()
     size, speed = (figures.total(build) for build in GCC)
+    ram = max(figures.bytes[build]["other"] for build in GCC)
+    ram = f"{ram} bytes of RAM" if ram else "no RAM"
     return f"""All fifty operations take **{size:,} bytes** of flash with their constants when built for size (GCC,
-Cortex-M4), {speed:,} when built for speed, and no RAM. The deepest stack is {max(stack)} bytes, calls
+Cortex-M4), {speed:,} when built for speed, and {ram}. The deepest stack is {max(stack)} bytes, calls
 included; half of them need {statistics.median(stack):g} or less.
 [Bytes, stack, instructions and cycles of every operation](docs/measurements.md), beside those of newlib and picolibc.
 """
@@ -131,7 +133,7 @@ seconds. Builds for size are CMake's `MinSizeRel` (`-Os`), builds for speed `-O2
     stacks = [figures.stack[build].values() for build in measure.BUILDS]
     yield table(["", *(build.replace("gcc", "GCC") for build in measure.BUILDS)], [
         ["All fifty, constants included: bytes of flash", *total],
-        ["Data, zeroed memory, unwind tables: bytes", *["0"] * len(total)],
+        ["Data, zeroed memory, unwind tables: bytes", *(figures.bytes[build]["other"] for build in measure.BUILDS)],
         ["Deepest stack, calls included: bytes", *(max(each) for each in stacks)],
         ["Median of the operations' stacks: bytes", *(f"{statistics.median(each):g}" for each in stacks)]])
     yield """
