@@ -64,6 +64,8 @@ int main(int argc, char**) {
   written("copy_bounded", (QUVEX_002035(out, count, wide), count - 1));
   expect("compare_counted", (QUVEX_002043(out, wide, count)), -count);
   expect("escape", (QUVEX_002029(wide, narrow_out, count), QUVEX_002014(narrow_out)), count - 1);
+  expect("compare_counted", QUVEX_002016(narrow_out, narrow_out + 1, INT32_MAX), count - 1);
+  expect("compare_folded_counted", QUVEX_002019(narrow_out, narrow_out + 1, INT32_MAX), count - 1);
   written("widen", (QUVEX_002001(narrow_out, out, count - 1), count - 2));
   written("widen_units", (QUVEX_002002(narrow_out, out, count), count - 1));
   out[count] = 0;
