@@ -26,12 +26,20 @@ target_compile_options(quvex PRIVATE
 
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   target_compile_options(quvex PRIVATE
-    $<$<CONFIG:MinSizeRel>:-fno-shrink-wrap>       # one way in and out is smaller than a short one past the saved registers
-    $<$<CONFIG:MinSizeRel>:-fno-ivopts>            # a pointer for each use of an index saves time, not bytes
-    $<$<CONFIG:MinSizeRel>:-fno-schedule-insns2>   # the order that is written needs fewer 4-byte instructions
-    $<$<CONFIG:MinSizeRel>:-fno-cse-follow-jumps>  # a constant kept in a register costs more than one made again
-    $<$<CONFIG:Release>:-fno-tree-pre>             # what it computes ahead of a loop's next turn costs a copy in each
-    $<$<CONFIG:Release>:-fno-tree-loop-im>)        # a constant moved out of a loop takes a register that is saved for it
+    $<$<CONFIG:MinSizeRel,Release>:-fno-shrink-wrap>  # one way in and out is smaller than a second past the saved registers
+    # For size. Off is what makes copies of code, or of values in registers that must be saved for them.
+    $<$<CONFIG:MinSizeRel>:-fno-ivopts>               # a pointer for each use of an index
+    $<$<CONFIG:MinSizeRel>:-fno-cse-follow-jumps>     # a constant kept instead of made again
+    $<$<CONFIG:MinSizeRel>:-fno-thread-jumps>         # a test's code once for each way that leads to it
+    $<$<CONFIG:MinSizeRel>:-fno-tree-dominator-opts>  # likewise
+    $<$<CONFIG:MinSizeRel>:-fno-tree-tail-merge>      # merged before it is known to be smaller; a later pass knows
+    $<$<CONFIG:MinSizeRel>:-fno-ssa-phiopt>           # two branches made one expression, in wider instructions
+    $<$<CONFIG:MinSizeRel>:-fno-schedule-insns2>      # an order that needs registers of 4-byte instructions
+    $<$<CONFIG:MinSizeRel>:-freorder-blocks-algorithm=stc>  # the order of the source needs more jumps
+    # For speed.
+    $<$<CONFIG:Release>:-fno-tree-pre>                # the next turn's values ahead of time: a copy in each turn
+    $<$<CONFIG:Release>:-fno-tree-loop-im>            # a constant in a register that is saved for it
+    $<$<CONFIG:Release>:-fno-schedule-insns>)         # likewise
 endif()
 
 # D: no time, user or mode of a member in the archive.

@@ -5,17 +5,19 @@
 // It throws no more than they do: where exceptions are on, clang would guard each call of one that might.
 #define QUVEX_INLINE static inline __attribute__((always_inline, nothrow))
 
-// More turns than a string can have units: GCC unrolls a loop with several ways out only if it can count its turns.
+// More turns than a string can have units, for a loop that its body ends. They are counted only where speed is asked
+// for, since GCC unrolls no loop with several ways out unless it can count its turns.
 #define QUVEX_TURNS(Unit) (UINTPTR_MAX / sizeof(Unit) & ~uintptr_t{7})
 
-#ifdef __OPTIMIZE_SIZE__  // clang would unroll at -Os, too
-#define QUVEX_UNROLL
+#ifdef __OPTIMIZE_SIZE__
+#define QUVEX_SPEED 0
+#define QUVEX_UNROLL(turns)  // clang would unroll at -Os, too
 #define QUVEX_ENDLESS(Unit) while (true)
 #else
-// Four turns of the loop that follows behind one another, with one branch back.
-#define QUVEX_UNROLL _Pragma("GCC unroll 4")
-// A loop that its body ends.
-#define QUVEX_ENDLESS(Unit) QUVEX_UNROLL for (uintptr_t turns = QUVEX_TURNS(Unit); turns; --turns)
+#define QUVEX_SPEED 1
+#define QUVEX_TEXT(words) #words
+#define QUVEX_UNROLL(turns) _Pragma(QUVEX_TEXT(GCC unroll turns))
+#define QUVEX_ENDLESS(Unit) QUVEX_UNROLL(4) for (uintptr_t turns = QUVEX_TURNS(Unit); turns; --turns)
 #endif
 
 #if defined(__clang__)

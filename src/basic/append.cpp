@@ -6,14 +6,14 @@ namespace {
 
 template <class Unit>
 QUVEX_INLINE Unit* end_of(Unit* string) {
-  QUVEX_UNROLL
+  QUVEX_UNROLL(4)
   while (*string) ++string;
   return string;
 }
 
 template <class Unit>
 QUVEX_INLINE void append_at_most(Unit* end, const Unit* source, int32_t room) {
-  QUVEX_UNROLL
+  QUVEX_UNROLL(4)
   for (; room > 0; --room) {
     if (!*source) break;
     *end++ = *source++;
@@ -25,7 +25,7 @@ template <class Unit>
 QUVEX_INLINE void append(Unit* destination, const Unit* source) {
   if (!destination || !source) return;
   Unit* end = end_of(destination);
-  QUVEX_UNROLL
+  QUVEX_UNROLL(4)
   while (*source) *end++ = *source++;
   *end = 0;
 }
@@ -50,7 +50,8 @@ QUVEX_INLINE void append_bounded_counted(quvex_wide* destination, int32_t size, 
   quvex_wide* end = end_of(destination);
   const int32_t used = static_cast<int32_t>(end - destination) + 1;
   if (size <= used) return;
-  append_at_most(end, source, count < size - used ? count : size - used);
+  const int32_t room = size - used;
+  append_at_most(end, source, room < count ? room : count);
 }
 
 }  // namespace

@@ -8,7 +8,7 @@ template <class Unit>
 QUVEX_INLINE void copy(Unit* destination, const Unit* source) {
   if (!destination || destination == source) return;
   if (source) {
-    QUVEX_UNROLL
+    QUVEX_UNROLL(4)
     while (*source) *destination++ = *source++;
   }
   *destination = 0;
@@ -19,7 +19,7 @@ QUVEX_INLINE void copy_bounded(Unit* destination, int32_t size, const Unit* sour
   if (!destination || destination == source) return;
   if (size <= 0) return;
   if (source) {
-    QUVEX_UNROLL
+    QUVEX_UNROLL(4)
     for (; size > 1; --size) {
       if (!*source) break;
       *destination++ = *source++;
@@ -33,7 +33,7 @@ QUVEX_INLINE void copy_counted(Unit* destination, const Unit* source, int32_t co
   if (!destination || destination == source) return;
   *destination = 0;
   if (!source) return;
-  QUVEX_UNROLL
+  QUVEX_UNROLL(4)
   for (; count > 0; --count) {
     const Unit unit = *source++;
     *destination++ = unit;

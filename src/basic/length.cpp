@@ -8,7 +8,7 @@ template <class Unit>
 QUVEX_INLINE int32_t length(const Unit* string) {
   if (!string) return 0;
   const Unit* end = string;
-  QUVEX_UNROLL
+  QUVEX_UNROLL(4)
   while (*end) ++end;
   return static_cast<int32_t>(end - string);
 }

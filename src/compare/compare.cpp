@@ -4,57 +4,52 @@
 
 namespace {
 
-template <bool Fold, class Unit>
-QUVEX_INLINE int32_t compare(const Unit* first, const Unit* second, uintptr_t count) {
+enum Bound { whole, counted };
+
+template <bool Fold, Bound bound, class Unit>
+QUVEX_INLINE int32_t compare(const Unit* first, const Unit* second, int32_t count = 0) {
   if (first == second) return 0;
-  if (!second) return 1;
   if (!first) return -1;
+  if (!second) return 1;
+  if (bound == counted && count <= 0) return 0;
   const Unit* start = first;
-  QUVEX_UNROLL
-  for (; count; --count) {
+  QUVEX_UNROLL(4)
+  for (uintptr_t turns = bound == counted ? static_cast<uint32_t>(count) : QUVEX_TURNS(Unit); turns;
+       turns -= bound == counted ? 1 : QUVEX_SPEED) {
     uint32_t a = *first++;
     uint32_t b = *second++;
     if (__builtin_expect(a != b, 0)) {
       a = folded<Fold>(a);
       b = folded<Fold>(b);
-      if (!Fold || a != b) {
-        const int32_t place = static_cast<int32_t>(first - start);
-        return a > b ? place : -place;
-      }
+      if (!Fold || a != b) return static_cast<int32_t>(a > b ? first - start : start - first);
     }
     if (!a) break;
   }
   return 0;
 }
 
-QUVEX_INLINE uintptr_t turns(int32_t count) { return count > 0 ? static_cast<uint32_t>(count) : 0; }
-
 }  // namespace
 
 int32_t QUVEX_002008(const quvex_narrow* first, const quvex_narrow* second) {
-  return compare<false>(first, second, QUVEX_TURNS(quvex_narrow));
+  return compare<false, whole>(first, second);
 }
-int32_t QUVEX_002033(const quvex_wide* first, const quvex_wide* second) {
-  return compare<false>(first, second, QUVEX_TURNS(quvex_wide));
-}
+int32_t QUVEX_002033(const quvex_wide* first, const quvex_wide* second) { return compare<false, whole>(first, second); }
 
 int32_t QUVEX_002016(const quvex_narrow* first, const quvex_narrow* second, int32_t count) {
-  return compare<false>(first, second, turns(count));
+  return compare<false, counted>(first, second, count);
 }
 int32_t QUVEX_002043(const quvex_wide* first, const quvex_wide* second, int32_t count) {
-  return compare<false>(first, second, turns(count));
+  return compare<false, counted>(first, second, count);
 }
 
 int32_t QUVEX_002012(const quvex_narrow* first, const quvex_narrow* second) {
-  return compare<true>(first, second, QUVEX_TURNS(quvex_narrow));
+  return compare<true, whole>(first, second);
 }
-int32_t QUVEX_002037(const quvex_wide* first, const quvex_wide* second) {
-  return compare<true>(first, second, QUVEX_TURNS(quvex_wide));
-}
+int32_t QUVEX_002037(const quvex_wide* first, const quvex_wide* second) { return compare<true, whole>(first, second); }
 
 int32_t QUVEX_002019(const quvex_narrow* first, const quvex_narrow* second, int32_t count) {
-  return compare<true>(first, second, turns(count));
+  return compare<true, counted>(first, second, count);
 }
 int32_t QUVEX_002046(const quvex_wide* first, const quvex_wide* second, int32_t count) {
-  return compare<true>(first, second, turns(count));
+  return compare<true, counted>(first, second, count);
 }

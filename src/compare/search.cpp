@@ -7,10 +7,8 @@ namespace {
 template <class Unit>
 QUVEX_INLINE Unit* find_character(const Unit* string, int32_t character) {
   if (!string) return nullptr;
-  QUVEX_ENDLESS(Unit) {
-    const int32_t unit = *string++;
-    if (!unit) break;
-    if (unit == character) return const_cast<Unit*>(string - 1);
+  for (; *string; ++string) {
+    if (*string == character) return const_cast<Unit*>(string);
   }
   return nullptr;
 }

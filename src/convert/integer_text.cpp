@@ -7,26 +7,25 @@ namespace {
 template <class Unit>
 QUVEX_INLINE Unit* to_text(int32_t value, Unit* destination, int32_t radix) {
   if (!destination) return nullptr;
-  *destination = 0;
-  if (radix <= 0) return destination;
-  if (radix == 1 && value) return destination;  // No finite text.
-  const uint32_t base = static_cast<uint32_t>(radix);
-  const bool negative = value < 0;
-  uint32_t magnitude = static_cast<uint32_t>(value);
-  if (negative) magnitude = 0 - magnitude;  // Negated as unsigned: the least integer has no positive twin.
-  Unit* last = destination;
-  do {
-    uint32_t digit = magnitude % base;
-    magnitude /= base;
-    if (digit > 9) digit += 'a' - '0' - 10;
-    *last++ = static_cast<Unit>('0' + digit);
-  } while (magnitude);
-  if (negative) *last++ = '-';
-  *last = 0;
-  for (Unit* first = destination; first < --last; ++first) {
-    const Unit unit = *first;
-    *first = *last;
-    *last = unit;
+  Unit* end = destination;
+  if (radix > 1 || (radix == 1 && !value)) {
+    const uint32_t base = static_cast<uint32_t>(radix);
+    const bool negative = value < 0;
+    uint32_t magnitude = static_cast<uint32_t>(value);
+    if (negative) magnitude = 0 - magnitude;  // Negated as unsigned: the least integer has no positive twin.
+    do {
+      uint32_t digit = magnitude % base;
+      magnitude /= base;
+      if (digit > 9) digit += 'a' - '0' - 10;
+      *end++ = static_cast<Unit>('0' + digit);
+    } while (magnitude);
+    if (negative) *end++ = '-';
+  }
+  *end = 0;
+  for (Unit* first = destination; first < end; ++first) {
+    const Unit unit = *--end;
+    *end = *first;
+    *first = unit;
   }
   return destination;
 }
@@ -39,7 +38,8 @@ QUVEX_INLINE int32_t to_integer(const Unit* source) {
   if (negative) ++source;
   uint32_t number = 0;
   for (uint32_t digit; (digit = *source - uint32_t{'0'}) < 10; ++source) number = number * 10 + digit;
-  return static_cast<int32_t>(negative ? 0 - number : number);
+  if (negative) number = 0 - number;
+  return static_cast<int32_t>(number);
 }
 
 }  // namespace

@@ -17,12 +17,14 @@ QUVEX_INLINE int32_t replace(const Unit* source, const Unit* pattern, const Unit
       exported::copy(destination + result + segment, replacement);
     }
     result += segment + replacement_length;
-    source = occurrence + pattern_length;
+    source += segment + pattern_length;
   }
-  // Measured first: in place, the copy moves what is measured.
-  const int32_t rest = exported::length(source);
-  if (destination) exported::copy(destination + result, source);
-  return result + rest;
+  if (destination) {
+    destination += result;
+    exported::copy(destination, source);
+    source = destination;
+  }
+  return result + exported::length(source);
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 // Zero is in no set: the set ends where it would be found.
 template <class Unit>
 QUVEX_INLINE bool is_member(const Unit* set, Unit unit) {
-  QUVEX_UNROLL
   for (; *set; ++set) {
     if (*set == unit) return true;
   }

@@ -22,7 +22,10 @@ QUVEX_INLINE int32_t split(Unit* string, const Unit* set, Unit** array) {
   if (!array) return 0;
   uint32_t cursor = 0;
   int32_t count = 0;
-  while (Unit* token = exported::next_token(string, &cursor, set)) array[count++] = token;
+  while (Unit* token = exported::next_token(string, &cursor, set)) {
+    *array++ = token;
+    ++count;
+  }
   return count;
 }
 

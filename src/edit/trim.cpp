@@ -10,9 +10,9 @@ QUVEX_INLINE int32_t trim(Unit* string, const Unit* set) {
   Unit* end = string + exported::length(string);
   Unit* start = string;
   if (set) {
-    while (end != string && is_member(set, end[-1])) --end;
-    *end = 0;
     while (is_member(set, *start)) ++start;
+    while (end != start && is_member(set, end[-1])) --end;
+    *end = 0;
     exported::copy(string, start);
   }
   return static_cast<int32_t>(end - start);
