@@ -33,8 +33,8 @@ int main(int argc, char**) {
   const int32_t length = argc > 1 ? (1 << 30) + 5 : 70000, count = 66000;
   const int64_t far = argc > 1 ? int64_t{1} << 31 : 70000;  // A cursor is no signed number.
   const quvex_wide b[] = {'b', 0}, ab[] = {'a', 'b', 0};
-  quvex_wide* const wide = string_of<quvex_wide>(length, 'a');
-  quvex_wide* const other = string_of<quvex_wide>(length, 'a');
+  static quvex_wide* const wide = string_of<quvex_wide>(length, 'a');
+  static quvex_wide* const other = string_of<quvex_wide>(length, 'a');
   other[length - 1] = 'b';
   expect("length", QUVEX_002039(wide), length);
   expect("compare", QUVEX_002033(wide, other), -length);
@@ -46,7 +46,7 @@ int main(int argc, char**) {
   expect("append_bounded", QUVEX_002039(wide), length + 1);
   expect("trim", QUVEX_002051(other, b), length - 1);
 
-  quvex_narrow* const narrow = string_of<quvex_narrow>(far + 9, ',');
+  static quvex_narrow* const narrow = string_of<quvex_narrow>(far + 9, ',');
   const quvex_narrow comma[] = {',', 0};
   auto cursor = uint32_t(far);
   narrow[far + 2] = 'x';
