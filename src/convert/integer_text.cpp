@@ -13,12 +13,13 @@ QUVEX_INLINE Unit* to_text(int32_t value, Unit* destination, int32_t radix) {
     const bool negative = value < 0;
     uint32_t magnitude = static_cast<uint32_t>(value);
     if (negative) magnitude = 0 - magnitude;  // Negated as unsigned: the least integer has no positive twin.
-    do {
+    while (true) {
       uint32_t digit = magnitude % base;
-      magnitude /= base;
       if (digit > 9) digit += 'a' - '0' - 10;
       *end++ = static_cast<Unit>('0' + digit);
-    } while (magnitude);
+      if (magnitude < base) break;
+      magnitude /= base;
+    }
     if (negative) *end++ = '-';
   }
   *end = 0;
