@@ -206,6 +206,7 @@ class Expectation {
     state.result = length_of(text);
     const size_t kept = c.in_place ? a.find(b) : 0;  // What stands before the first occurrence stays.
     if (c.provided && kept != Text::npos) write_ended(to, base + int64_t(kept), Text(text).substr(kept));
+    readable[to] |= writable[to];  // It may measure what it has written.
   }
 
   void convert() {
