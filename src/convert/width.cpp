@@ -19,6 +19,7 @@ QUVEX_INLINE const quvex_narrow* escape(const quvex_wide* source, quvex_narrow* 
         *end++ = static_cast<quvex_narrow>(unit);
         continue;
       }
+      // cppcheck-suppress knownConditionTrueFalse  // it does not see that 0 less a blank is a great number
       if (!unit) break;
       quvex_narrow closing[4 + 2];  // Up to 4 digits in front of it.
       quvex_narrow* digits = closing + 4;
