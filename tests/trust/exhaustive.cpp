@@ -50,6 +50,7 @@ void each_number(Number kind, const Case& c, Visit visit) {
     for (int i = from; i <= to; ++i) visit(i);
   };
   const int size = int(c.text[first].size()), other = c.op < Op::compare ? int(c.text[second].size()) : 0;
+  if (kind == bound && c.op >= Op::widen_units) return range(-1, room / 2);
   if (kind == bound) return range(-1, (c.op == Op::escape ? 9 : 1) * size + other + 2);
   if (kind == radix) return range(-1, 40), range(168, 171), range(255, 257), visit(65537);
   range(-360, 360);

@@ -55,12 +55,20 @@ expect("compare_folded_counted", call(2046, other, wide, GREATEST), length)
 expect("find_character", call(2032, other, B, result=address), other + 2 * (length - 1))
 expect("find", call(2049, other, ab[0], result=address), other + 2 * (length - 2))
 expect("replace", call(2047, other, b[0], ab[0], None), length + 1)
+expect("replace the whole", call(2047, other, other, b[0], None), 1)
+expect("replace by much", call(2047, b[0], b[0], wide, None), length)
+expect("replace nothing", call(2047, wide, b[0], ab[0], None), length)
 call(2031, wide, length + 2, other)
 expect("append_bounded", call(2039, wide), length + 1)
 expect("trim", call(2051, other, b[0]), length - 1)
 
+comma, comma_memory = string(ord(","), 1, 1)
+fields, fields_memory = string(ord(","), 2 * count, 1)
+fields_memory[:2 * count:2] = b"x" * count
+expect("split", call(2021, fields, comma, (ctypes.c_void_p * count)()), count)
+
 out, out_memory = string(0, 3 * count, 2)
-narrow_out, _ = string(0, count, 1)
+narrow_out, narrow_out_memory = string(0, count, 1)
 for what, number, arguments, wanted in [
         ("copy_counted", 2044, (out, wide, count), count),
         ("append_counted", 2041, (out, wide, count), 2 * count),
@@ -83,7 +91,6 @@ expect("copy_units", call(2039, out), count)
 
 far = 1 << 31 if options.huge else 70000  # A cursor is no signed number.
 narrow, narrow_memory = string(ord(","), far + 9, 1)
-comma, _ = string(ord(","), 1, 1)
 put(narrow_memory, far + 2, ord("x"), 1)
 cursor = ctypes.c_uint32(far)
 expect("next_token", call(2023, narrow, ctypes.byref(cursor), comma, result=address), narrow + far + 2)
