@@ -18,7 +18,7 @@ QUVEX_INLINE int32_t compare(const Unit* first, const Unit* second, int32_t coun
        turns -= bound == counted ? 1 : QUVEX_SPEED) {
     uint32_t a = *first++;
     uint32_t b = *second++;
-    if (__builtin_expect(a != b, 0)) {
+    if (__builtin_expect(a != b, 0)) {  // equal units go straight on
       a = folded<Fold>(a);
       b = folded<Fold>(b);
       if (!Fold || a != b) return static_cast<int32_t>(a > b ? first - start : start - first);
