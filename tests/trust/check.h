@@ -26,7 +26,7 @@ inline int check(const Case& c) {
   }
   if (footprint.again && (c.op == Op::find || c.op == Op::find_folded)) wrong = "a search on from the end";
   if (footprint.stray) wrong = "an access outside every argument";
-  if (footprint.broad) wrong = "an access wider than a unit";
+  if (footprint.broad) wrong = "an access wider than a unit, or not aligned";
 #endif
   if (!wrong) return 0;
   std::fprintf(stderr, "%s %s, n %ld, m %ld, %s, shift %d, skew %d %d: %s", c.wide ? "wide" : "narrow",
