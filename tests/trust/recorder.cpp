@@ -13,7 +13,7 @@ static void record(const void* address, unsigned size, bool store) {
     if (size > unit && footprint.op != Op::widen_units && footprint.op != Op::copy_units) footprint.broad = true;
     if (slot == first && !store) footprint.again |= footprint.ended && int(from) < footprint.end;
     if (slot == first && !store) footprint.ended |= int(from) == footprint.end;
-    if (reinterpret_cast<uintptr_t>(address) % size) footprint.broad = true;
+    if (size == 4 && footprint.op == Op::copy_units && reinterpret_cast<uintptr_t>(address) % 4) footprint.broad = true;
     for (uintptr_t i = from; i <= to; ++i)
       (store ? footprint.written : footprint.read)[slot] |= uint64_t{1} << i % room;
   };
