@@ -6,19 +6,14 @@ TWIN_SUITE(Trim);
 TYPED_TEST(Trim, StripsASetFromBothEnds) {
   each_row<TypeParam, Text, Text, int32_t, Text>(
       {
-          {u"  ab c  ", u" ", 4, u"ab c\0c\0 "},
-          {u"\t a", u" \t", 1, u"a\0a"},
+          {u"\t ab c  ", u" \t", 4, u"ab c\0c\0 "},
           {u"a ", u" ", 1, u"a\0"},
           {u"   ", u" ", 0, u"\0  "},
-          {u"", u" ", 0, u""},
-          {u" a ", u"", 3, u" a "},
           {u" a ", nullptr, 3, u" a "},
-          {u"\x80\xFF\x80", u"\x80", 1, u"\xFF\0\0"},
           {u"\x120\x100 \x120", u"\x200\x120", 2, u"\x100 \0\0"},
       },
       [](const Text& text, const Text& stripped, int32_t length, const Text& after) {
-        Destination<TypeParam> string(text, after);
-        Source<TypeParam> set(stripped);
+        Guarded<TypeParam> string(text, after), set(stripped);
         EXPECT_EQ(Op<TypeParam>::trim(string, set), length);
       });
 }

@@ -22,59 +22,39 @@ struct Text {
 
 // Units alone, without a terminator behind them.
 inline Text operator""_u(const char16_t* units, std::size_t size) { return Text(units, size); }
+const Text fresh = u""_u;
 
-// A buffer of exactly these units. An access to the one before the first, or to the one past the last, faults: which
-// of them is the side under test.
+// Exactly the units of `before` and, if it is longer, as many markers as `after` needs, which must stand there at the end.
+// Without `after`, or with null, it is only read: a store faults. So does an access to the unit before the first, or to
+// the one past the last: which of them is the side under test.
 template <class Unit>
 class Guarded {
  public:
-  Guarded(const Text& text, Access access) : page_(used_pages++), size_(text.units.size()), is_null_(text.is_null) {
+  explicit Guarded(const Text& before, const Text& after = nullptr)
+      : page_(used_pages++), is_null_(before.is_null), expected_(after.is_null ? before.units : after.units) {
+    std::u16string units = before.units;
+    units.resize(std::max(units.size(), expected_.size()), u'#');
     uint8_t* start = protect_page(page_, Access::write);
-    if (side_under_test == Side::end) start += page_size - size_ * sizeof(Unit);
+    if (side_under_test == Side::end) start += page_size - units.size() * sizeof(Unit);
     first_ = reinterpret_cast<Unit*>(start);
-    std::copy(text.units.begin(), text.units.end(), first_);
-    protect_page(page_, access);
+    end_ = std::copy(units.begin(), units.end(), first_);
+    protect_page(page_, after.is_null ? Access::read : Access::write);
   }
-  ~Guarded() { protect_page(page_, Access::none), --used_pages; }
+  ~Guarded() {
+    EXPECT_EQ(std::u16string(first_, end_), expected_);
+    protect_page(page_, Access::none), --used_pages;
+  }
 
-  Unit* data() const { return is_null_ ? nullptr : first_; }
-  std::u16string units() const { return std::u16string(first_, first_ + size_); }
+  operator Unit*() const { return is_null_ ? nullptr : first_; }
 
   // Where a result points; -1 for null.
   int index_of(const Unit* result) const { return result ? static_cast<int>(result - first_) : -1; }
 
  private:
   int page_;
-  std::size_t size_;
   bool is_null_;
-  Unit* first_;
-};
-
-// A string that is read: a store faults.
-template <class Unit>
-struct Source : Guarded<Unit> {
-  Source(const Text& text) : Guarded<Unit>(text, Access::read) {}
-  operator const Unit*() const { return this->data(); }
-};
-
-// A buffer that is written, and must hold `after` when it goes. It is exactly as long, and holds markers where `before`
-// does not reach. A null `after` says that nothing may be stored, not even what is there already.
-template <class Unit>
-class Destination : public Guarded<Unit> {
- public:
-  Destination(const Text& before, const Text& after)
-      : Guarded<Unit>(padded(before, after), after.is_null ? Access::read : Access::write),
-        expected_(after.is_null ? before.units : after.units) {}
-  explicit Destination(const Text& after) : Destination(after.is_null ? u"#"_u : u""_u, after) {}
-  ~Destination() { EXPECT_EQ(this->units(), expected_); }
-  operator Unit*() const { return this->data(); }
-
- private:
-  static Text padded(Text text, const Text& after) {
-    text.units.resize(std::max(text.units.size(), after.units.size()), u'#');
-    return text;
-  }
   std::u16string expected_;
+  Unit *first_, *end_;
 };
 
 #endif
