@@ -8,7 +8,9 @@
     - String: units ended by the first zero unit. A string that is read must be terminated, unless its operation says
       how far it reads.
     - Twins: the narrow operation stands first, its wide twin behind it. They behave alike, unit for unit.
-    - Lengths, positions, sizes and counts are in units of the string's own width, never in bytes.
+    - Lengths, positions, sizes and counts are in units of the string's own width, never in bytes. No string, and no
+      result, may be longer than 2147483647.
+    - Alignment: as C asks, so that the address of a wide unit is even.
     - Size: how many units a destination can hold, terminator included. Count: how many units are taken from a source.
       Both are signed: 2^31 or more arrives as a negative number and acts as one.
     - Null: every pointer may be null, with the result that is stated; the one exception is the string of trim.
@@ -164,8 +166,8 @@ QUVEX_NOTHROW quvex_wide* QUVEX_002038(const quvex_wide* haystack, const quvex_w
     the string leaves the cursor on the terminator, as does null. So adjoining delimiters count as one; a caller who
     wants empty fields looks at `string[*cursor]` before each call.
     With an empty set the token is the rest of the string. Null, and nothing touched, if a pointer is null.
-    `string` is read from the cursor to the end of the token, never before. The caller starts the cursor at 0, keeps it
-    within the string, and may pass another set on each call. */
+    `string` is read from the cursor to the end of the token, never before. The caller starts the cursor at 0, or
+    elsewhere up to the terminator but not beyond it, and may pass another set on each call. */
 QUVEX_NOTHROW quvex_narrow* QUVEX_002023(quvex_narrow* string, uint32_t* cursor, const quvex_narrow* set);
 QUVEX_NOTHROW quvex_wide* QUVEX_002050(quvex_wide* string, uint32_t* cursor, const quvex_wide* set);
 
@@ -177,7 +179,8 @@ QUVEX_NOTHROW int32_t QUVEX_002048(quvex_wide* string, const quvex_wide* set, qu
 
 /** Trim the characters of `set` from both ends, in place: what is kept moves to the start of `string`. The result
     is its length. A null or empty set strips nothing. `string` must not be null, and must be writable even if
-    nothing is stripped; nothing beyond its terminator is touched. */
+    nothing is stripped. The unit that followed what is kept, where it stood, becomes zero as well; nothing beyond
+    the old terminator is touched. */
 QUVEX_NOTHROW int32_t QUVEX_002024(quvex_narrow* string, const quvex_narrow* set);
 QUVEX_NOTHROW int32_t QUVEX_002051(quvex_wide* string, const quvex_wide* set);
 
@@ -186,8 +189,8 @@ QUVEX_NOTHROW int32_t QUVEX_002051(quvex_wide* string, const quvex_wide* set);
     in is not searched.
     `destination` must hold that length + 1 units; null asks for the length alone, and nothing is written.
     0, and nothing written, if a string is null or `pattern` is empty.
-    In place: `destination` may be `source` if `replacement` is shorter than `pattern`, or if there is no
-    occurrence; then nothing is written. It must not overlap anything otherwise. */
+    In place: `destination` may be `source` if `replacement` is shorter than `pattern`, and also if there is no
+    occurrence, when nothing is written. It must not overlap anything otherwise. */
 QUVEX_NOTHROW int32_t QUVEX_002020(const quvex_narrow* source, const quvex_narrow* pattern,
                                    const quvex_narrow* replacement, quvex_narrow* destination);
 QUVEX_NOTHROW int32_t QUVEX_002047(const quvex_wide* source, const quvex_wide* pattern, const quvex_wide* replacement,
@@ -200,7 +203,8 @@ QUVEX_NOTHROW int32_t QUVEX_002047(const quvex_wide* source, const quvex_wide* p
     Returns `destination`, null included. It must hold 34 units for any value in any radix, 12 in radix 10, 10 in
     radix 16.
     A radix of 0 or less gives the empty string. A radix above 36 goes on behind `z`: digit d is the unit 87 + d,
-    modulo the unit's width. A radix of 1 is for the value 0 alone; with another it gives the empty string. */
+    modulo 256 (narrow) or 65536 (wide), and so may be a zero that ends the text early. A radix of 1 is for the value 0
+    alone; with another it gives the empty string. */
 QUVEX_NOTHROW quvex_narrow* QUVEX_002003(int32_t value, quvex_narrow* destination, int32_t radix);
 QUVEX_NOTHROW quvex_wide* QUVEX_002004(int32_t value, quvex_wide* destination, int32_t radix);
 
