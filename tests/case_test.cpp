@@ -4,18 +4,15 @@ TWIN_SUITE(Case);
 
 // Null where nothing changes: nothing is stored, not even what is there already.
 TYPED_TEST(Case, MapsTheLettersOfTheOtherCase) {
-  each_row<TypeParam, Text, Text, Text>(
-      {
-          {nullptr, nullptr, nullptr},
-          {u"@[`{ AZ\xC1", u"@[`{ az\xC1", nullptr},
-          {u"@[`{ az\xE1", nullptr, u"@[`{ AZ\xE1"},
-          {u"A\x141\x161z", u"a\x141\x161z", u"A\x141\x161Z"},
-      },
-      [](const Text& string, const Text& lower, const Text& upper) {
-        Guarded<TypeParam> lowered(string, lower), raised(string, upper);
-        Op<TypeParam>::to_lower(lowered);
-        Op<TypeParam>::to_upper(raised);
-      });
+  const auto row = rows<TypeParam>([](Text string, Text lower, Text upper) {
+    Guarded<TypeParam> lowered(string, lower), raised(string, upper);
+    Op<TypeParam>::to_lower(lowered);
+    Op<TypeParam>::to_upper(raised);
+  });
+  row(nullptr, nullptr, nullptr);
+  row(u"@[`{ AZ\xC1", u"@[`{ az\xC1", nullptr);
+  row(u"@[`{ az\xE1", nullptr, u"@[`{ AZ\xE1");
+  row(u"A\x141\x161z", u"a\x141\x161z", u"A\x141\x161Z");
 }
 
 TEST(CaseOfACharacter, TestsTheWholeValue) {

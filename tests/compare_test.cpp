@@ -6,31 +6,28 @@ const std::u16string run(300, u'a');
 
 // The greatest count is none. A string against itself is never read, readable or not.
 TYPED_TEST(Compare, TellsTheOrderAndThePlaceWithinACount) {
-  each_row<TypeParam, Text, Text, int32_t, int32_t, int32_t>(
-      {
-          {u""_u, nullptr, greatest, 1, 1},
-          {nullptr, u""_u, least, -1, -1},
-          {u"abd"_u, u"abc"_u, greatest, 3, 3},
-          {u"ab", u"abc"_u, greatest, -3, -3},
-          {run + u"b", run + u"c", greatest, -301, -301},
-          {u"Hello", u"hELLO", greatest, -1, 0},
-          {u"_"_u, u"A"_u, greatest, 1, -1},
-          {u"\x80"_u, u"\x7F"_u, greatest, 1, 1},
-          {u"\u0100b"_u, u"\u0100a"_u, greatest, 2, 2},
-          {u"\x161"_u, u"\x141"_u, greatest, 1, 1},
-          {u""_u, u""_u, 0, 0, 0},
-          {u"AB"_u, u"ab"_u, 2, -1, 0},
-      },
-      [](const Text& one, const Text& other, int32_t count, int32_t order, int32_t folded_order) {
-        Guarded<TypeParam> first(one), second(other);
-        EXPECT_EQ(Op<TypeParam>::compare_counted(first, second, count), order);
-        EXPECT_EQ(Op<TypeParam>::compare_counted(first, first, 9), 0);
-        EXPECT_EQ(Op<TypeParam>::compare_folded_counted(first, second, count), folded_order);
-        EXPECT_EQ(Op<TypeParam>::compare_folded_counted(first, first, 9), 0);
-        if (count < greatest) return;
-        EXPECT_EQ(Op<TypeParam>::compare(first, second), order);
-        EXPECT_EQ(Op<TypeParam>::compare(first, first), 0);
-        EXPECT_EQ(Op<TypeParam>::compare_folded(first, second), folded_order);
-        EXPECT_EQ(Op<TypeParam>::compare_folded(first, first), 0);
-      });
+  const auto row = rows<TypeParam>([](Text one, Text other, int32_t count, int32_t order, int32_t folded_order) {
+    Guarded<TypeParam> first(one), second(other);
+    EXPECT_EQ(Op<TypeParam>::compare_counted(first, second, count), order);
+    EXPECT_EQ(Op<TypeParam>::compare_counted(first, first, 9), 0);
+    EXPECT_EQ(Op<TypeParam>::compare_folded_counted(first, second, count), folded_order);
+    EXPECT_EQ(Op<TypeParam>::compare_folded_counted(first, first, 9), 0);
+    if (count < greatest) return;
+    EXPECT_EQ(Op<TypeParam>::compare(first, second), order);
+    EXPECT_EQ(Op<TypeParam>::compare(first, first), 0);
+    EXPECT_EQ(Op<TypeParam>::compare_folded(first, second), folded_order);
+    EXPECT_EQ(Op<TypeParam>::compare_folded(first, first), 0);
+  });
+  row(u""_u, nullptr, greatest, 1, 1);
+  row(nullptr, u""_u, least, -1, -1);
+  row(u"abd"_u, u"abc"_u, greatest, 3, 3);
+  row(u"ab", u"abc"_u, greatest, -3, -3);
+  row(run + u"b", run + u"c", greatest, -301, -301);
+  row(u"Hello", u"hELLO", greatest, -1, 0);
+  row(u"_"_u, u"A"_u, greatest, 1, -1);
+  row(u"\x80"_u, u"\x7F"_u, greatest, 1, 1);
+  row(u"\u0100b"_u, u"\u0100a"_u, greatest, 2, 2);
+  row(u"\x161"_u, u"\x141"_u, greatest, 1, 1);
+  row(u""_u, u""_u, 0, 0, 0);
+  row(u"AB"_u, u"ab"_u, 2, -1, 0);
 }

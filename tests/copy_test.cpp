@@ -5,24 +5,21 @@ TWIN_SUITE(Copy);
 // What is taken within a size, and within a count; with the greatest size, the whole copy does the same. Nothing is
 // stored in the source itself.
 TYPED_TEST(Copy, StopsAtTheTerminatorOrTheBound) {
-  each_row<TypeParam, Text, int32_t, Text, Text>(
-      {
-          {nullptr, greatest, u"", u""},
-          {u""_u, 0, nullptr, u""},
-          {u"h"_u, 1, u"", u"h"_u},
-          {u"hello"_u, 5, u"hell", u"hello"_u},
-          {u"hello", 6, u"hello", u"hello"},
-          {u"\x80\x100\xFFFF", greatest, u"\x80\x100\xFFFF", u"\x80\x100\xFFFF"},
-      },
-      [](const Text& text, int32_t bound, const Text& within_size, const Text& within_count) {
-        Guarded<TypeParam> source(text), sized(fresh, within_size), counted(fresh, within_count);
-        Op<TypeParam>::copy_bounded(sized, bound, source);
-        Op<TypeParam>::copy_bounded(source, bound, source);
-        Op<TypeParam>::copy_counted(counted, source, bound);
-        Op<TypeParam>::copy_counted(source, source, bound);
-        if (bound < greatest) return;
-        Guarded<TypeParam> whole(fresh, within_size);
-        Op<TypeParam>::copy(whole, source);
-        Op<TypeParam>::copy(source, source);
-      });
+  const auto row = rows<TypeParam>([](Text text, int32_t bound, Text within_size, Text within_count) {
+    Guarded<TypeParam> source(text), sized(fresh, within_size), counted(fresh, within_count);
+    Op<TypeParam>::copy_bounded(sized, bound, source);
+    Op<TypeParam>::copy_bounded(source, bound, source);
+    Op<TypeParam>::copy_counted(counted, source, bound);
+    Op<TypeParam>::copy_counted(source, source, bound);
+    if (bound < greatest) return;
+    Guarded<TypeParam> whole(fresh, within_size);
+    Op<TypeParam>::copy(whole, source);
+    Op<TypeParam>::copy(source, source);
+  });
+  row(nullptr, greatest, u"", u"");
+  row(u""_u, 0, nullptr, u"");
+  row(u"h"_u, 1, u"", u"h"_u);
+  row(u"hello"_u, 5, u"hell", u"hello"_u);
+  row(u"hello", 6, u"hello", u"hello");
+  row(u"\x80\x100\xFFFF", greatest, u"\x80\x100\xFFFF", u"\x80\x100\xFFFF");
 }

@@ -4,36 +4,31 @@ TWIN_SUITE(Tokenize);
 
 // `rest` is the string from the cursor on: what lies before it cannot be read.
 TYPED_TEST(Tokenize, ReturnsTheNextTokenAndMovesTheCursor) {
-  each_row<TypeParam, Text, uint32_t, Text, int, uint32_t, Text>(
-      {
-          {nullptr, 0, u""_u, -1, 0, nullptr},
-          {u",x,"_u, 0, u",", 1, 3, u",x\0"_u},
-          {u"-b="_u, 5, u"==--", 1, 8, u"-b\0"_u},
-          {u"bc", 70000, u"", 0, 70002, nullptr},
-          {u",,,", 4, u",", -1, 7, nullptr},
-          {u",\x100\x12C\x22C"_u, 0, u"\x200\x22C,", 1, 4, u",\x100\x12C\0"_u},
-      },
-      [](const Text& rest, uint32_t cursor, const Text& delimiters, int token, uint32_t next, const Text& after) {
+  const auto row =
+      rows<TypeParam>([](Text rest, uint32_t cursor, Text delimiters, int token, uint32_t next, Text after) {
         Guarded<TypeParam> string(rest, after), set(delimiters);
         EXPECT_EQ(string.index_of(Op<TypeParam>::next_token(string - cursor, &cursor, set)), token);
         EXPECT_EQ(cursor, next);
       });
+  row(nullptr, 0, u""_u, -1, 0, nullptr);
+  row(u",x,"_u, 0, u",", 1, 3, u",x\0"_u);
+  row(u"-b="_u, 5, u"==--", 1, 8, u"-b\0"_u);
+  row(u"bc", 70000, u"", 0, 70002, nullptr);
+  row(u",,,", 4, u",", -1, 7, nullptr);
+  row(u",\x100\x12C\x22C"_u, 0, u"\x200\x22C,", 1, 4, u",\x100\x12C\0"_u);
 }
 
 TYPED_TEST(Tokenize, StoresEveryTokenOfASplit) {
-  each_row<TypeParam, Text, Text, std::vector<int>, Text>(
-      {
-          {u""_u, nullptr, {}, nullptr},
-          {u",,", u",", {}, nullptr},
-          {u"abc", u"", {0}, nullptr},
-          {u" ab  cd e ", u" ", {1, 5, 8}, u" ab\0 cd\0e\0"},
-          {u"a\x12C,\x22C", u"\x22C,", {0}, u"a\x12C\0\x22C"},
-      },
-      [](const Text& text, const Text& delimiters, const std::vector<int>& tokens, const Text& after) {
-        Guarded<TypeParam> string(text, after), set(delimiters);
-        std::vector<TypeParam*> array(tokens.size() + 1);
-        ASSERT_EQ(Op<TypeParam>::split(string, set, array.data()), static_cast<int32_t>(tokens.size()));
-        for (std::size_t i = 0; i < tokens.size(); ++i) EXPECT_EQ(string.index_of(array[i]), tokens[i]);
-        EXPECT_EQ(array.back(), nullptr);
-      });
+  const auto row = rows<TypeParam>([](Text text, Text delimiters, std::vector<int> tokens, Text after) {
+    Guarded<TypeParam> string(text, after), set(delimiters);
+    std::vector<TypeParam*> array(tokens.size() + 1);
+    ASSERT_EQ(Op<TypeParam>::split(string, set, array.data()), static_cast<int32_t>(tokens.size()));
+    for (std::size_t i = 0; i < tokens.size(); ++i) EXPECT_EQ(string.index_of(array[i]), tokens[i]);
+    EXPECT_EQ(array.back(), nullptr);
+  });
+  row(u""_u, nullptr, {}, nullptr);
+  row(u",,", u",", {}, nullptr);
+  row(u"abc", u"", {0}, nullptr);
+  row(u" ab  cd e ", u" ", {1, 5, 8}, u" ab\0 cd\0e\0");
+  row(u"a\x12C,\x22C", u"\x22C,", {0}, u"a\x12C\0\x22C");
 }

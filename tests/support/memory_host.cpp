@@ -11,7 +11,7 @@ namespace {
 
 void report(int) {
   const auto test = testing::UnitTest::GetInstance()->current_test_info();
-  std::printf("%s.%s: row %d faults out of bounds\n", test->test_suite_name(), test->name(), row);
+  std::printf("%s.%s: row %d faults out of bounds\n", test->test_suite_name(), test->name(), row_number);
   std::fflush(stdout);
   _exit(1);
 }

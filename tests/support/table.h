@@ -3,8 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <initializer_list>
-#include <tuple>
+#include <functional>
 
 #include "guarded.h"
 #include "operations.h"
@@ -20,29 +19,32 @@ using Widths = testing::Types<quvex_narrow, quvex_wide>;
   TYPED_TEST_SUITE(Family, Widths, )
 
 template <class Unit, class Cell>
-bool fits(const Cell& cell) {
-  if constexpr (std::is_same_v<Cell, Text>) {
-    for (char16_t unit : cell.units) {
-      if (static_cast<Unit>(unit) != unit) return false;
-    }
-  }
+bool fits(const Cell&) {
   return true;
 }
+template <class Unit>
+bool fits(const Text& text) {
+  return std::all_of(text.units.begin(), text.units.end(),
+                     [](char16_t unit) { return static_cast<Unit>(unit) == unit; });
+}
 
-// Calls `body` with the cells of each row, once for each side of its buffers. A row with a unit above 255 is for wide
-// strings alone.
-template <class Unit, class... Cells, class Body>
-void each_row(std::initializer_list<std::tuple<Cells...>> table, Body body) {
-  row = 0;
-  for (const auto& cells : table) {
-    ++row;
-    SCOPED_TRACE("row " + std::to_string(row));
-    if (!std::apply([](const Cells&... cell) { return (fits<Unit>(cell) && ...); }, cells)) continue;
+template <class Unit, class... Cells>
+auto rows_of(std::function<void(Cells...)> body) {
+  row_number = 0;
+  return [=](Cells... cells) {
+    SCOPED_TRACE("row " + std::to_string(++row_number));
     for (Side side : {Side::start, Side::end}) {
       side_under_test = side;
-      std::apply(body, cells);
+      if ((fits<Unit>(cells) && ...)) body(cells...);
     }
-  }
+  };
+}
+
+// What is called with the cells of a row, and runs `body` with them once for each side of its buffers. A row with a
+// unit above 255 is for wide strings alone.
+template <class Unit, class Body>
+auto rows(Body body) {
+  return rows_of<Unit>(std::function(body));
 }
 
 #endif
