@@ -1,6 +1,5 @@
 /* A user's program, in C and C++: every name once, with a result that tells whether it reached its operation. */
 #include <stdint.h>
-#include <stdio.h>
 
 #ifdef __cplusplus
 #include "quvex.hpp"
@@ -12,13 +11,9 @@ typedef char16_t wide_character;
 typedef uint16_t wide_character;
 #endif
 
-static int failed;
-static void expect(int condition, int line) {
-  if (condition) return;
-  printf("caller.c:%d\n", line);
-  ++failed;
-}
-#define EXPECT(condition) expect(condition, __LINE__)
+/* The exit status is the line that failed. */
+#define EXPECT(condition) \
+  if (!(condition)) return __LINE__
 
 int main(void) {
   const char byte[] = "\xe9";
@@ -53,5 +48,5 @@ int main(void) {
   CALL(widen_units)("\x80", wide, 1);
   EXPECT(CALL(find_character)(wide, 0x80) == wide);
   EXPECT(CALL(find_character)(byte, byte[0]) == byte && CALL(character_to_lower)(byte[0]) == 0xe9);
-  return failed;
+  return 0;
 }

@@ -3,19 +3,15 @@
 #ifdef DIRECT
 #include "quvex.h"
 #define CALL(number, name, arguments) QUVEX_##number arguments
-typedef uint8_t N;
-typedef uint16_t W;
 #elif defined(__cplusplus)
 #include "quvex.hpp"
 #define CALL(number, name, arguments) quvex::name arguments
-typedef NARROW N;
-typedef WIDE W;
 #else
 #include "quvex_names.h"
 #define CALL(number, name, arguments) quvex_##name arguments
+#endif
 typedef NARROW N;
 typedef WIDE W;
-#endif
 
 #ifdef __cplusplus
 #define CALLER extern "C" auto

@@ -4,11 +4,22 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <tuple>
 
 #include "guarded.h"
-#include "operations.h"
+#include "quvex.h"
 
 constexpr int32_t least = INT32_MIN, greatest = INT32_MAX;
+
+// The operations by name and width; of those that stand alone, both are the same.
+template <class Unit>
+struct Op {
+#define OPERATION(name, narrow, wide, arguments, provides, places) \
+  static constexpr auto name = std::get<sizeof(Unit) - 1>(std::tuple(&QUVEX_##narrow, &QUVEX_##wide));
+#include "../trust/operations.def"
+#undef OPERATION
+};
+using Wide = Op<quvex_wide>;
 
 using Widths = testing::Types<quvex_narrow, quvex_wide>;
 

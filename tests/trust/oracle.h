@@ -3,6 +3,8 @@
 
 #include <cctype>
 #include <charconv>
+#include <cstdio>
+#include <cstring>
 #include <string>
 
 #include "scene.h"
@@ -33,7 +35,7 @@ inline int64_t length_of(Text text) { return int64_t(text.size()); }
 class Expectation {
  public:
   State state;
-  uint64_t readable[cursor + 1] = {}, needed[cursor + 1] = {}, writable[cursor + 1] = {};  // A bit for each unit.
+  uint64_t readable[cursor + 1] = {}, writable[cursor + 1] = {};  // A bit for each unit.
 
   Expectation(const Case& call, const State& start) : state(start), c(call) { expect(start); }
 
@@ -68,17 +70,10 @@ class Expectation {
   static uint64_t bits(int64_t from, int64_t end) {
     return end <= from ? 0 : (~uint64_t{0} >> (room - (end - from))) << from;
   }
-  void may_read(int slot, int64_t count, int64_t from = 0) {
+  void read(int slot, int64_t count, int64_t from = 0) {
     const int64_t start = slot == first ? skew : 0;
     const int64_t end = op < Op::widen_units ? std::min(count, length_of(c.text[slot]) + 1) : count;
     if (c.text[slot].data()) readable[slot] |= bits(start + from, start + end);
-  }
-  void read(int slot, int64_t count, int64_t from = 0) {
-    const uint64_t before = readable[slot];
-    readable[slot] = 0;
-    may_read(slot, count, from);
-    needed[slot] |= readable[slot];
-    readable[slot] |= before;
   }
   void write(int slot, int64_t index, Text units) {
     writable[slot] |= bits(index, index + length_of(units));
@@ -111,8 +106,7 @@ class Expectation {
     const Text body = up_to(a, limit);
     write(slot, at, body);
     if (op != Op::copy_counted || length_of(a) < limit || body.empty()) write(slot, at + length_of(body), Text(u"", 1));
-    read(first, length_of(body));
-    may_read(first, std::min(bound, length_of(body) + 1));
+    read(first, std::min(bound, length_of(body) + 1));
   }
 
   void map() {
@@ -154,21 +148,18 @@ class Expectation {
       return read(first, index == Text::npos ? all : int64_t(index) + 1);
     }
     if (!x || !y) return;
-    may_read(first, all);
-    may_read(second, all);
+    read(first, all);
+    read(second, all);
     const auto equal = [=](char16_t u, char16_t v) { return op == Op::find ? u == v : lower(u) == lower(v); };
     const auto match = std::search(a.begin(), a.end(), b.begin(), b.end(), equal);
-    if (match == a.end()) return;
-    state.result = skew + (match - a.begin());
-    read(first, match - a.begin() + length_of(b));
-    read(second, all);
+    if (match != a.end()) state.result = skew + (match - a.begin());
   }
 
   void cut() {
     const bool splits = op == Op::split;
     if (!splits) state.result = null_pointer;
     if (!x || !y || !c.provided) return;
-    may_read(second, all);
+    read(second, all);
     size_t from = splits ? 0 : size_t(c.n);
     for (bool more = true; more;) {
       const size_t token = a.find_first_not_of(b, from), end = std::min(a.find_first_of(b, token), a.size());
@@ -187,7 +178,7 @@ class Expectation {
 
   void trim() {
     read(first, all);
-    may_read(second, all);
+    read(second, all);
     write_ended(first, skew + length_of(a), u"");
     const size_t from = std::min(a.find_first_not_of(b), a.size()), last = a.find_last_not_of(b);
     const Text kept = a.substr(from, last - from + 1);
@@ -197,10 +188,10 @@ class Expectation {
   }
 
   void replace() {
-    may_read(second, all);
+    read(second, all);
     if (!x || !r.data() || b.empty()) return;
     read(first, all);
-    may_read(third, all);
+    read(third, all);
     std::u16string text(a);
     for (size_t i = 0; (i = text.find(b, i)) != Text::npos; i += r.size()) text.replace(i, b.size(), r);
     state.result = length_of(text);
@@ -225,7 +216,7 @@ class Expectation {
       for (char16_t& unit : text) unit = c.wide ? unit : unit & 0xFF;
     }
     for (size_t i = 0; op == Op::escape && x && length_of(text) < std::max<int64_t>(c.n, 1); text += piece, ++i) {
-      may_read(first, int64_t(i) + 1);
+      read(first, int64_t(i) + 1);
       if (i == a.size()) break;
       piece = a[i] < 128 && std::isprint(a[i]) ? a.substr(i, 1) : u"&(0x" + digits(a[i], 16) + u")";
       if (length_of(text + piece) >= c.n) break;
@@ -234,6 +225,40 @@ class Expectation {
     readable[to] = writable[to];
   }
 };
+
+inline uint64_t digest = 14695981039346656037u;  // Of all that the calls left behind.
+
+// 1, and a line that says what is wrong, if a call leaves anything but what it must or touches what it must not.
+inline int check(const Case& c) {
+  const State start = before(c);
+  const Expectation expected(c, start);
+  footprint = {c.op, {}, {}, false, false, c.skew[0] + int(c.text[first].size()), false, false};
+  const State state = after(start, c);
+  uint64_t words[sizeof state.unit / sizeof(uint64_t)];
+  std::memcpy(words, state.unit, sizeof words);
+  for (const uint64_t word : words) digest = (digest ^ word) * 1099511628211u;
+  digest = (digest ^ uint64_t(state.result) ^ state.cursor) * 1099511628211u;
+  const char* wrong = nullptr;
+  if (state.result != expected.state.result || state.cursor != expected.state.cursor) wrong = "the result or cursor";
+  if (std::memcmp(state.unit, expected.state.unit, sizeof state.unit) != 0) wrong = "the memory left behind";
+  for (int slot = first; slot <= cursor; ++slot) {
+    if (footprint.read[slot] & ~expected.readable[slot]) wrong = "a unit read beyond the contract";
+    if (footprint.written[slot] & ~expected.writable[slot]) wrong = "a unit written beyond the contract";
+  }
+  if (footprint.again && (c.op == Op::find || c.op == Op::find_folded)) wrong = "a search on from the end";
+  if (footprint.stray) wrong = "an access outside every argument";
+  if (footprint.broad) wrong = "an access wider than a unit, or not aligned";
+  if (!wrong) return 0;
+  const char* const place = !c.provided ? "null" : c.in_place ? "in place" : "apart";
+  std::fprintf(stderr, "%s, wide %d, n %ld, m %ld, %s, shift %d, skew %d %d: %s", traits[int(c.op)].name, c.wide,
+               long(c.n), long(c.m), place, c.shift, c.skew[0], c.skew[1], wrong);
+  for (const Text text : c.text) {
+    std::fprintf(stderr, text.data() ? "; text" : "; null");
+    for (const char16_t unit : text) std::fprintf(stderr, " %x", unsigned(unit));
+  }
+  std::fprintf(stderr, "\n");
+  return 1;
+}
 
 }  // namespace trust
 

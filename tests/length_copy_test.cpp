@@ -1,6 +1,17 @@
 #include "support/table.h"
 
+TWIN_SUITE(Length);
 TWIN_SUITE(Copy);
+
+TYPED_TEST(Length, CountsUnitsBeforeTheTerminator) {
+  const auto row = rows<TypeParam>([](Text text, int32_t length) {
+    Guarded<TypeParam> string(text);
+    EXPECT_EQ(Op<TypeParam>::length(string), length);
+  });
+  row(nullptr, 0);
+  row(u"A\x100\xFFFF\x8000", 4);
+  row(std::u16string(300, u'x'), 300);
+}
 
 // What is taken within a size, and within a count; with the greatest size, the whole copy does the same. Nothing is
 // stored in the source itself.
