@@ -2,32 +2,29 @@
 
 TWIN_SUITE(Append);
 
-// A greatest size or count is none: an operation without that bound does the same.
-TYPED_TEST(Append, FollowsTheTextWithinASizeAndACount) {
-  const auto row = rows<TypeParam>([](Text before, int32_t size, Text text, int32_t count, Text after) {
-    Guarded<TypeParam> source(text);
-    if (count == greatest) {
-      Guarded<TypeParam> sized(before, after);
-      Op<TypeParam>::append_bounded(sized, size, source);
-    }
-    if (count == greatest && size == greatest) {
-      Guarded<TypeParam> whole(before, after);
-      Op<TypeParam>::append(whole, source);
-    }
-    if constexpr (sizeof(TypeParam) == sizeof(quvex_wide)) {
-      Guarded<quvex_wide> both(before, after);
-      Wide::append_bounded_counted(both, size, source, count);
-      if (size < greatest) return;
-      Guarded<quvex_wide> counted(before, after);
-      Wide::append_counted(counted, source, count);
-    }
+TYPED_TEST(Append, FollowsTheTextWithinASize) {
+  const auto row = rows<TypeParam>([](Text before, int32_t size, Text text, Text after) {
+    Guarded<TypeParam> source(text), string(before, after);
+    if (size < greatest) return Op<TypeParam>::append_bounded(string, size, source);
+    Op<TypeParam>::append(string, source);
   });
-  row(nullptr, greatest, u""_u, greatest, nullptr);
-  row(u""_u, greatest, nullptr, greatest, nullptr);
-  row(u"abc", 3, u""_u, greatest, nullptr);
-  row(u"ab", 3, u""_u, greatest, nullptr);
-  row(u"ab", 4, u"cd"_u, greatest, u"abc");
+  row(nullptr, greatest, u""_u, nullptr);
+  row(u""_u, greatest, nullptr, nullptr);
+  row(u"abc", 3, u""_u, nullptr);
+  row(u"ab", 3, u""_u, nullptr);
+  row(u"ab", 4, u"cd"_u, u"abc");
+  row(u"ab", 5, u"cd", u"abcd");
+  row(u"a\x100", greatest, u"\x200\xFFFF", u"a\x100\x200\xFFFF");
+}
+
+TEST(AppendCounted, FollowsTheTextWithinACountAndASize) {
+  const auto row = rows<quvex_wide>([](Text before, int32_t size, Text text, int32_t count, Text after) {
+    Guarded<quvex_wide> source(text), string(before, after);
+    if (size < greatest) return Wide::append_bounded_counted(string, size, source, count);
+    Wide::append_counted(string, source, count);
+  });
   row(u"ab", greatest, u""_u, 0, u"ab");
   row(u"ab", greatest, u"cd"_u, 1, u"abc");
-  row(u"a\x100", greatest, u"\x200\xFFFF", greatest, u"a\x100\x200\xFFFF");
+  row(u"ab", 3, u""_u, 1, nullptr);
+  row(u"ab", 4, u"cd"_u, 9, u"abc");
 }

@@ -3,9 +3,11 @@
 #ifdef DIRECT
 #include "quvex.h"
 #define CALL(number, name, arguments) QUVEX_##number arguments
+#define BOUND(array) array, 8
 #elif defined(__cplusplus)
 #include "quvex.hpp"
 #define CALL(number, name, arguments) quvex::name arguments
+#define BOUND(array) array
 #else
 #include "quvex_names.h"
 #define CALL(number, name, arguments) quvex_##name arguments
@@ -39,19 +41,12 @@ extern "C" {
 #ifdef __cplusplus
 extern "C" N narrow[8];
 extern "C" W wide[8];
-#ifdef DIRECT
-#define BOUNDED(number, name, array, source) QUVEX_##number(array, 8, source)
-#define CONVERTED(number, name, array, source) QUVEX_##number(source, array, 8)
-#else
-#define BOUNDED(number, name, array, source) quvex::name(array, source)
-#define CONVERTED(number, name, array, source) quvex::name(source, array)
-#endif
 extern "C" void into_arrays(const N* n, const W* w) {
-  BOUNDED(002010, copy, narrow, n);
-  BOUNDED(002035, copy, wide, w);
-  BOUNDED(002006, append, narrow, n);
-  BOUNDED(002031, append, wide, w);
-  CONVERTED(002029, escape, narrow, w);
-  CONVERTED(002001, widen, wide, n);
+  CALL(002010, copy, (BOUND(narrow), n));
+  CALL(002035, copy, (BOUND(wide), w));
+  CALL(002006, append, (BOUND(narrow), n));
+  CALL(002031, append, (BOUND(wide), w));
+  CALL(002029, escape, (w, BOUND(narrow)));
+  CALL(002001, widen, (n, BOUND(wide)));
 }
 #endif
