@@ -4,7 +4,6 @@
 #include "oracle.h"
 
 namespace trust {
-namespace {
 
 // Any bytes as a call; what is missing reads as zero. The case looks into the decoder, and may be none that is valid.
 struct Decoder {
@@ -54,7 +53,6 @@ struct Decoder {
   }
 };
 
-}  // namespace
 }  // namespace trust
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {

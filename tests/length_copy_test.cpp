@@ -31,6 +31,5 @@ TYPED_TEST(Copy, StopsAtTheTerminatorOrTheBound) {
   row(u""_u, 0, nullptr, u"");
   row(u"h"_u, 1, u"", u"h"_u);
   row(u"hello"_u, 5, u"hell", u"hello"_u);
-  row(u"hello", 6, u"hello", u"hello");
   row(u"\x80\x100\xFFFF", greatest, u"\x80\x100\xFFFF", u"\x80\x100\xFFFF");
 }

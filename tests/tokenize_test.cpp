@@ -14,7 +14,6 @@ TYPED_TEST(Tokenize, ReturnsTheNextTokenAndMovesTheCursor) {
   row(u",x,"_u, 0, u",", 1, 3, u",x\0"_u);
   row(u"-b="_u, 5, u"==--", 1, 8, u"-b\0"_u);
   row(u"bc", 70000, u"", 0, 70002, nullptr);
-  row(u",,,", 4, u",", -1, 7, nullptr);
   row(u",\x100\x12C\x22C"_u, 0, u"\x200\x22C,", 1, 4, u",\x100\x12C\0"_u);
 }
 

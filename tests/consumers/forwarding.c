@@ -16,11 +16,9 @@ typedef NARROW N;
 typedef WIDE W;
 
 #ifdef __cplusplus
-#define CALLER extern "C" auto
-#define TYPED(result)
+#define TYPED(result) auto
 extern "C" {
 #else
-#define CALLER
 #define TYPED(result) result
 #endif
 
@@ -30,23 +28,21 @@ extern "C" {
 #include "operations.inc"
 #undef OPERATION
 #endif
-#ifdef __cplusplus
-}
-#endif
 
 #define OPERATION(number, name, result, parameters, arguments) \
-  CALLER TYPED(result) call_##number parameters { return CALL(number, name, arguments); }
+  TYPED(result) call_##number parameters { return CALL(number, name, arguments); }
 #include "operations.inc"
 
 #ifdef __cplusplus
-extern "C" N narrow[8];
-extern "C" W wide[8];
-extern "C" void into_arrays(const N* n, const W* w) {
+extern N narrow[8];
+extern W wide[8];
+void into_arrays(const N* n, const W* w) {
   CALL(002010, copy, (BOUND(narrow), n));
   CALL(002035, copy, (BOUND(wide), w));
   CALL(002006, append, (BOUND(narrow), n));
   CALL(002031, append, (BOUND(wide), w));
   CALL(002029, escape, (w, BOUND(narrow)));
   CALL(002001, widen, (n, BOUND(wide)));
+}
 }
 #endif

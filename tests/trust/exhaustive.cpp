@@ -4,10 +4,11 @@
 
 #include "oracle.h"
 
-namespace trust {
+using namespace trust;
+using namespace std::string_view_literals;
+
 namespace {
 
-using namespace std::string_view_literals;
 constexpr int unused = -99;
 enum Number { none, bound, any, radix };
 
@@ -103,10 +104,8 @@ void run(const Family& family, bool wide, int start, int longest) {
 }
 
 }  // namespace
-}  // namespace trust
 
 int main(int argc, char** argv) {
-  using namespace trust;
   const int longest = argc > 1 ? std::atoi(argv[1]) : 3;
   for (const Family& family : families) {
     for (const bool wide : {false, true}) {

@@ -20,26 +20,17 @@ inline std::u16string digits(uint32_t magnitude, uint32_t radix) {
   return (magnitude < radix ? u"" : digits(magnitude / radix, radix)) + last;
 }
 
-inline uint32_t number(const std::string& text) {  // In pieces that a word holds.
-  const size_t rest = text.size() > 9 ? text.size() - 9 : 0;
-  uint32_t piece = 0;
-  std::from_chars(text.data() + rest, text.data() + text.size(), piece);
-  return rest ? number(text.substr(0, rest)) * 1000000000u + piece : piece;
-}
-
 inline char16_t lower(char16_t unit) { return unit < 128 ? char16_t(std::tolower(unit)) : unit; }
 inline Text up_to(Text text, int64_t limit) { return text.substr(0, size_t(std::max<int64_t>(limit, 0))); }
 inline int64_t length_of(Text text) { return int64_t(text.size()); }
 
 // What a call must leave behind and may touch, told by the standard library.
-class Expectation {
- public:
+struct Expectation {
   State state;
   uint64_t readable[cursor + 1] = {}, writable[cursor + 1] = {};  // A bit for each unit.
 
   Expectation(const Case& call, const State& start) : state(start), c(call) { expect(start); }
 
- private:
   const Case& c;
   const Op op = c.op;
   const Text a = c.text[first], b = c.text[second], r = c.text[third];
@@ -204,7 +195,9 @@ class Expectation {
     const size_t sign = std::min(a.find_first_not_of(u" \t"), a.size()), from = sign + (a.substr(sign, 1) == u"-");
     const size_t end = std::min(a.find_first_not_of(u"0123456789", from), a.size());
     if (op == Op::to_integer) {
-      const uint32_t value = number({a.begin() + from, a.begin() + end});
+      const std::string text(a.begin() + from, a.begin() + end);
+      uint64_t value = 0;
+      std::from_chars(text.data(), text.data() + text.size(), value);
       state.result = int32_t(from > sign ? 0 - value : value);
       return read(first, int64_t(end) + 1);
     }

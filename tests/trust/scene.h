@@ -77,6 +77,7 @@ inline bool is_valid(const Case& c) {
   if (c.in_place && !(is.places && c.provided && c.text[first].data())) return false;
   if ((c.shift && !(c.in_place && c.op == Op::copy_units)) || c.skew[0] + c.shift < 0) return false;
   if (c.in_place && compares && c.text[second].data()) return false;  // There is no other string.
+  if (c.op == Op::to_integer) return a < 20;                          // What the oracle's 64 bits hold.
   if (c.op == Op::trim) return c.text[first].data();
   if (c.op == Op::next_token) return c.n >= 0 && c.n <= a;
   if (c.op == Op::escape) return a * 9 < room - 8 || c.n < room - 8;
