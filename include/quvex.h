@@ -7,7 +7,7 @@
       A unit is an unsigned number, never an encoding: no sign, no surrogate pair, no locale.
     - String: units ended by the first zero unit. A string that is read must be terminated, unless its operation says
       how far it reads.
-    - Twins: the narrow operation stands first, its wide twin behind it. They behave alike, unit for unit.
+    - Twins: the narrow operation stands first, its wide twin below it. They behave alike, unit for unit.
     - Lengths, positions, sizes and counts are in units of the string's own width, never in bytes. No string, and no
       result, may be longer than 2147483647.
     - Alignment: as C asks, so that the address of a wide unit is even.
@@ -235,7 +235,7 @@ QUVEX_NOTHROW void QUVEX_002002(const quvex_narrow* source, quvex_wide* destinat
 
 /** Wide unit copy: exactly `count` units, zeros among them; no terminator. The two may overlap: the result is that of a
     copy unit by unit from index 0 on, so that it moves text towards the front, and repeats the first d units when
-    `destination` lies d units behind `source`. Nothing happens if either is null or `count` is 0 or less. */
+    `destination` lies d units after `source`. Nothing happens if either is null or `count` is 0 or less. */
 QUVEX_NOTHROW void QUVEX_002028(const quvex_wide* source, quvex_wide* destination, int32_t count);
 
 #ifdef __cplusplus
