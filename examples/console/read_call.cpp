@@ -181,6 +181,7 @@ bool read_arguments(Call* call, char* line, uint32_t cursor) {
     while (line[cursor] == ' ') ++cursor;
     if (!line[cursor]) return true;
     Argument* argument = find_missing(call, line[cursor]);
+    if (!argument) argument = find_missing(call, 0);  // which says what it takes instead
     char* end = line + cursor;
     while (*end && !quvex::find_character(" =\"'", *end)) ++end;
     if (*end == '=') {
