@@ -202,7 +202,7 @@ QUVEX_NOTHROW int32_t QUVEX_002047(const quvex_wide* source, const quvex_wide* p
     terminated.
     Returns `destination`, null included. It must hold 34 units for any value in any radix, 12 in radix 10, 10 in
     radix 16.
-    A radix of 0 or less gives the empty string. A radix above 36 goes on behind `z`: digit d is the unit 87 + d,
+    A radix of 0 or less gives the empty string. A radix above 36 goes on after `z`: digit d is the unit 87 + d,
     modulo 256 (narrow) or 65536 (wide), and so may be a zero that ends the text early. A radix of 1 is for the value 0
     alone; with another it gives the empty string. */
 QUVEX_NOTHROW quvex_narrow* QUVEX_002003(int32_t value, quvex_narrow* destination, int32_t radix);
