@@ -218,8 +218,9 @@ QUVEX_NOTHROW int32_t QUVEX_002053(const quvex_wide* source);
 /** Escaped narrowing: wide text as printable ASCII. A unit from 32 to 126 stays one character; any other becomes
     `&(0x`, its 1 to 4 hexadecimal digits in lower case, and `)`. Always terminated; stops before the first piece,
     character or escape, that does not fit whole, and reads no further.
-    Returns `destination`; if that is null, a constant empty string, which must not be written to. A null source
-    gives the empty string. A size of 1 or less gives it too: `destination` must hold 1 unit whatever its size. */
+    Returns `destination`; if that is null, a constant empty string, the same on every call, which must not be written
+    to. A null source gives the empty string. A size of 1 or less gives it too: `destination` must hold 1 unit whatever
+    its size. */
 QUVEX_NOTHROW const quvex_narrow* QUVEX_002029(const quvex_wide* source, quvex_narrow* destination, int32_t size);
 
 /** Size-bounded widening copy: the first min(length, size - 1) characters of `source`, each as the wide unit of the
