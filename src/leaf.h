@@ -5,8 +5,8 @@
 // It throws no more than they do: where exceptions are on, clang would guard each call of one that might.
 #define QUVEX_INLINE static inline __attribute__((always_inline, nothrow))
 
-// More turns than a string can have units, for a loop that its body ends; a multiple of 8, so that unrolling leaves none
-// over. They are counted only where speed is asked for: GCC unrolls no loop with several ways out that it cannot count.
+// More turns than a string can have units, for a loop that its body ends; a multiple of 8, so that unrolling leaves
+// none over. Counted only where speed is asked for: GCC unrolls no loop with several ways out that it cannot count.
 #define QUVEX_TURNS(Unit) (UINTPTR_MAX / sizeof(Unit) & ~uintptr_t{7})
 
 #ifdef __OPTIMIZE_SIZE__
