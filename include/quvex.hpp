@@ -2,7 +2,8 @@
     The operations of quvex.h under readable names for C++17 and later, one name for both widths.
 
     - Text is a pointer to, or an array of, `char`, `unsigned char`, `char8_t` (narrow), `char16_t` or `uint16_t`
-      (wide): literals too. A pointer that comes back is one to the caller's own character type, `const` if the text was.
+      (wide): literals too. A pointer that comes back is one to the caller's own character type, `const` if the text
+      was.
     - Where the destination is an array, `copy`, `append`, `escape` and `widen` are bounded by it and take no size. A
       literal (any array of `const` characters) that is larger than the destination does not compile.
     - Narrow and wide text do not mix: such a call does not compile.
