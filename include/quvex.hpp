@@ -13,6 +13,10 @@
 #ifndef QUVEX_HPP
 #define QUVEX_HPP
 
+#if __cplusplus < 201703L
+#error "quvex.hpp needs C++17. With an older standard, call the link names of quvex.h."
+#else
+
 #include "quvex.h"
 
 #if defined(__GNUC__)
@@ -351,4 +355,5 @@ QUVEX_FORWARD void copy_units(units<const quvex_wide> source, units<quvex_wide> 
 
 #undef QUVEX_FORWARD
 
+#endif
 #endif
