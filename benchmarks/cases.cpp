@@ -88,6 +88,8 @@ const Case cases[] = {
     {"find, worst case", u"A", "AAAAAAAB", "tn", F(QUVEX_002022), F(QUVEX_002049), "tn", F(strstr)},
     {"find_folded", upper, "!?", "tn", F(QUVEX_002013), F(QUVEX_002038), "tn", F(strcasestr)},
     {"next_token", upper, ",; ", "tkn", F(QUVEX_002023), F(QUVEX_002050), "tnk", F(strtok_r)},
+    {"next_token, set of one", upper, ",", "tkn", F(QUVEX_002023), F(QUVEX_002050), "tnk", F(strtok_r)},
+    {"next_token, set of eight", upper, " \t\r\n,;:=", "tkn", F(QUVEX_002023), F(QUVEX_002050), "tnk", F(strtok_r)},
     {"split", words, " ", "tnd", F(QUVEX_002021), F(QUVEX_002048), "", none},
     {"trim", blanks, " \t", "tn", F(QUVEX_002024), F(QUVEX_002051), "", none},
     {"replace", upper, "A", "tnrd", F(QUVEX_002020), F(QUVEX_002047), "", none},
