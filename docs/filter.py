@@ -4,15 +4,16 @@
 Doxygen calls it with the header's name; the header itself stays plain text. Of the two headers of readable names, only
 the introduction is passed on: their operations stand with those of quvex.h.
 """
+import json
 import pathlib
 import re
+import subprocess
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 COMMENT = r"(?:(?!\*/).)*?"
-# Link number, then readable name and arguments.
-ROWS = r"^OPERATION\((\d+), (\w+), .*, (\(.*\))\)$"
-NAMES = {row[0]: row[1:] for row in re.findall(ROWS, (ROOT / "tests/consumers/operations.inc").read_text(), re.M)}
+LIST = json.loads(subprocess.check_output([ROOT / "scripts/operations", "--json"]))
+ARGUMENTS = {each["name"]: ", ".join(name for _, name in each["links"][0]["parameters"]) for each in LIST}
 EXAMPLES = dict(re.findall(r"^## (\w+)\n\n(.*?)(?=^## |\Z)", (ROOT / "docs/examples.md").read_text(), re.M | re.S))
 
 
@@ -44,7 +45,8 @@ def operation(match):
     """A contract and its twins as a group of members under the readable name."""
     contract, declarations = match[1], match[2].replace("QUVEX_NOTHROW ", "")
     numbers = re.findall(r"QUVEX_(\d+)", declarations)
-    name, arguments = NAMES[numbers[0]]
+    name, contract = re.match(r"`(\w+)`[^:]*: (.*)", contract, re.S).groups()
+    contract, arguments = contract[0].upper() + contract[1:], f"({ARGUMENTS[name]})"
     lines = [f"/** @name {name}", f"@anchor operation_{name} `quvex::{name}{arguments}` in C++, `quvex_{name}{arguments}` in C", "", paragraphs(contract), ""]
     twins = ("narrow", "wide") if len(numbers) == 2 else ("only",)
     lines += ["Measured on a Cortex-M4, built by GCC for size and for speed; for n units of text."]

@@ -1,4 +1,4 @@
-// Any input is a call of one of the fifty operations, held to what the standard library expects of it.
+// Any input is a call of an operation, held to what the standard library expects of it.
 #include <cstdlib>
 
 #include "oracle.h"

@@ -50,68 +50,74 @@ extern "C" {
 
 /* ---- Length and copy ---- */
 
-/** Length: the number of characters in `string`; 0 for null. */
+/** `length`: the number of characters in `string`; 0 for null. */
 QUVEX_NOTHROW int32_t QUVEX_002014(const quvex_narrow* string);
 QUVEX_NOTHROW int32_t QUVEX_002039(const quvex_wide* string);
 
-/** Copy `source` with its terminator to `destination`, which must hold length + 1 units.
-    A null source gives the empty string. Nothing is written if `destination` is null or is `source` itself. */
+/** `copy`: copy `source` with its terminator.
+    `destination` must hold length + 1 units. A null source gives the empty string. Nothing is written if `destination`
+    is null or is `source` itself. */
 QUVEX_NOTHROW void QUVEX_002009(quvex_narrow* destination, const quvex_narrow* source);
 QUVEX_NOTHROW void QUVEX_002034(quvex_wide* destination, const quvex_wide* source);
 
-/** Size-bounded copy: the first min(length, size - 1) characters of `source`, always terminated.
-    A null source gives the empty string. Nothing is written if `destination` is null or is `source` itself, or if
-    `size` is 0 or less. `destination` must hold `size` units or length + 1, whichever is fewer. `source` is read up
-    to its terminator or index size - 1, whichever comes first, and needs no terminator beyond. */
+/** `copy_bounded`: copy as much of `source` as fits in `size` units, always terminated.
+    The first min(length, size - 1) characters are copied. A null source gives the empty string. Nothing is written if
+    `destination` is null or is `source` itself, or if `size` is 0 or less. `destination` must hold `size` units or
+    length + 1, whichever is fewer. `source` is read up to its terminator or index size - 1, whichever comes first, and
+    needs no terminator beyond. */
 QUVEX_NOTHROW void QUVEX_002010(quvex_narrow* destination, int32_t size, const quvex_narrow* source);
 QUVEX_NOTHROW void QUVEX_002035(quvex_wide* destination, int32_t size, const quvex_wide* source);
 
-/** Count-bounded copy: units of `source` up to and with its terminator, but at most `count`. With a length of
-    `count` or more, exactly `count` characters are written and no terminator. The rest of the destination is not
-    filled.
-    A null source, or a count of 0 or less, gives the empty string. Nothing is written if `destination` is null or
-    is `source` itself. `destination` must hold min(length + 1, count) units, and at least 1. No source unit at
-    index `count` or beyond is read: `source` may be a field without a terminator. */
+/** `copy_counted`: copy at most `count` units of `source`, up to and with its terminator.
+    With a length of `count` or more, exactly `count` characters are written and no terminator. The rest of the
+    destination is not filled.
+    A null source, or a count of 0 or less, gives the empty string. Nothing is written if `destination` is null or is
+    `source` itself. `destination` must hold min(length + 1, count) units, and at least 1. No source unit at index
+    `count` or beyond is read: `source` may be a field without a terminator. */
 QUVEX_NOTHROW void QUVEX_002017(quvex_narrow* destination, const quvex_narrow* source, int32_t count);
 QUVEX_NOTHROW void QUVEX_002044(quvex_wide* destination, const quvex_wide* source, int32_t count);
 
 /* ---- Append: the destination is a terminated string, of length L, measured to its end on every call ---- */
 
-/** Append `source` with its terminator to `destination`, which must hold L + length + 1 units.
-    Nothing is written if either is null. */
+/** `append`: append `source` with its terminator.
+    `destination` must hold L + length + 1 units. Nothing is written if either is null. */
 QUVEX_NOTHROW void QUVEX_002005(quvex_narrow* destination, const quvex_narrow* source);
 QUVEX_NOTHROW void QUVEX_002030(quvex_wide* destination, const quvex_wide* source);
 
-/** Size-bounded append: `size` is that of the whole destination, not what is left of it. The first n = min(length,
-    size - L - 1) characters of `source` are appended and terminated; source units 0 to n are read.
+/** `append_bounded`: append as much of `source` as fits in `size` units, the size of the whole destination.
+    The first n = min(length, size - L - 1) characters are appended and terminated; source units 0 to n are read.
     Nothing is written if either is null, or if `size` is L + 1 or less: a destination that is full, or longer than
     `size` allows, is neither changed nor shortened. */
 QUVEX_NOTHROW void QUVEX_002006(quvex_narrow* destination, int32_t size, const quvex_narrow* source);
 QUVEX_NOTHROW void QUVEX_002031(quvex_wide* destination, int32_t size, const quvex_wide* source);
 
-/** Count-bounded append (wide only): the first n = min(length, count) characters of `source`, 0 for a negative
-    count, and always a terminator. `destination` must hold L + n + 1 units. Source units 0 to n are read, or none
-    if `count` is 0 or less. Nothing is written if either is null. */
+/** `append_counted` (wide only): append at most `count` characters of `source`, always terminated.
+    The first n = min(length, count) characters are appended, none for a negative count. `destination` must hold L + n +
+    1 units. Source units 0 to n are read, or none if `count` is 0 or less. Nothing is written if either is null. */
 QUVEX_NOTHROW void QUVEX_002041(quvex_wide* destination, const quvex_wide* source, int32_t count);
 
-/** Size- and count-bounded append (wide only): the first n = min(length, count, size - L - 1) characters of
-    `source`, 0 for a negative count, and always a terminator. Source units 0 to n are read, or none if `count` is 0
-    or less. Nothing is written if either is null, or if `size` is L + 1 or less. */
+/** `append_bounded_counted` (wide only): append at most `count` characters of `source`, and no more than fit in `size`
+    units, the size of the whole destination.
+    The first n = min(length, count, size - L - 1) characters are appended, none for a negative count, and always
+    terminated. Source units 0 to n are read, or none if `count` is 0 or less. Nothing is written if either is null, or
+    if `size` is L + 1 or less. */
 QUVEX_NOTHROW void QUVEX_002042(quvex_wide* destination, int32_t size, const quvex_wide* source, int32_t count);
 
 /* ---- Case ---- */
 
-/** Character to lower case: a value from 65 to 90 plus 32; every other 32-bit value unchanged. Serves both widths. */
+/** `character_to_lower`: one character in lower case.
+    A value from 65 to 90 plus 32; every other 32-bit value unchanged. Serves both widths. */
 QUVEX_NOTHROW int32_t QUVEX_002026(int32_t character);
 
-/** Character to upper case: a value from 97 to 122 minus 32; every other 32-bit value unchanged. Serves both widths. */
+/** `character_to_upper`: one character in upper case.
+    A value from 97 to 122 minus 32; every other 32-bit value unchanged. Serves both widths. */
 QUVEX_NOTHROW int32_t QUVEX_002027(int32_t character);
 
-/** String to lower case, in place. Only units that change are written; null is left alone. */
+/** `to_lower`: change a string to lower case, in place. Only units that change are written; null is left alone. */
 QUVEX_NOTHROW void QUVEX_002015(quvex_narrow* string);
 QUVEX_NOTHROW void QUVEX_002040(quvex_wide* string);
 
-/** String to upper case, in place. Only units that change are written; null is left alone. */
+/** `to_upper`: change a string to upper case, in place. Only units that change are written; null is left alone. */
 QUVEX_NOTHROW void QUVEX_002025(quvex_narrow* string);
 QUVEX_NOTHROW void QUVEX_002052(quvex_wide* string);
 
@@ -123,70 +129,77 @@ QUVEX_NOTHROW void QUVEX_002052(quvex_wide* string);
    Both strings are read to the first difference, the common terminator or the bound. Strings that agree in 2147483647
    or more units must not be passed. */
 
-/** Comparison. */
+/** `compare`: the order of two strings and the place of their first difference. */
 QUVEX_NOTHROW int32_t QUVEX_002008(const quvex_narrow* first, const quvex_narrow* second);
 QUVEX_NOTHROW int32_t QUVEX_002033(const quvex_wide* first, const quvex_wide* second);
 
-/** Count-bounded comparison: at most the first `count` units of each, which need no terminator among them; a count
-    of 0 or less compares nothing and gives 0, but after the null strings have been told apart. */
+/** `compare_counted`: compare at most the first `count` units of each string.
+    They need no terminator among them. A count of 0 or less compares nothing and gives 0, unless one string is null:
+    null is ordered before the count is looked at. */
 QUVEX_NOTHROW int32_t QUVEX_002016(const quvex_narrow* first, const quvex_narrow* second, int32_t count);
 QUVEX_NOTHROW int32_t QUVEX_002043(const quvex_wide* first, const quvex_wide* second, int32_t count);
 
-/** Case-insensitive comparison: both units are folded to lower case before they are compared, for equality and
-    order, so that the six characters from 91 to 96 order below every letter. */
+/** `compare_folded`: compare without case.
+    Both units are folded to lower case before they are compared, for equality and order, so that the six characters
+    from 91 to 96 order below every letter. */
 QUVEX_NOTHROW int32_t QUVEX_002012(const quvex_narrow* first, const quvex_narrow* second);
 QUVEX_NOTHROW int32_t QUVEX_002037(const quvex_wide* first, const quvex_wide* second);
 
-/** Count-bounded case-insensitive comparison: folded as the one, bounded as the other. */
+/** `compare_folded_counted`: compare at most the first `count` units of each string, without case.
+    Folded as by `compare_folded`, bounded as by `compare_counted`. */
 QUVEX_NOTHROW int32_t QUVEX_002019(const quvex_narrow* first, const quvex_narrow* second, int32_t count);
 QUVEX_NOTHROW int32_t QUVEX_002046(const quvex_wide* first, const quvex_wide* second, int32_t count);
 
 /* ---- Search: the result points into the string that was passed, and may be written through if that may ---- */
 
-/** Character search: the first unit equal to `character`, or null. The whole 32-bit value is compared: only 1 to 255
-    (narrow) or 1 to 65535 (wide) can match. The terminator is never found. Null in a null string. */
+/** `find_character`: the first unit of `string` equal to `character`, or null.
+    The whole 32-bit value is compared: only 1 to 255 (narrow) or 1 to 65535 (wide) can match. The terminator is never
+    found. Null in a null string. */
 QUVEX_NOTHROW quvex_narrow* QUVEX_002007(const quvex_narrow* string, int32_t character);
 QUVEX_NOTHROW quvex_wide* QUVEX_002032(const quvex_wide* string, int32_t character);
 
-/** Substring search: the start of the leftmost occurrence of `needle` in `haystack`, or null. In an empty haystack
-    nothing is found, not even an empty needle; in any other the empty needle is found at its start. Null if either is
-    null. A plain scan: the time grows with the product of the lengths at worst, and a partial match that runs into the
-    haystack's terminator ends it. */
+/** `find`: the start of the leftmost occurrence of `needle` in `haystack`, or null.
+    In an empty haystack nothing is found, not even an empty needle; in any other the empty needle is found at its
+    start. Null if either is null. A plain scan: the time grows with the product of the lengths at worst, and a partial
+    match that runs into the haystack's terminator ends it. */
 QUVEX_NOTHROW quvex_narrow* QUVEX_002022(const quvex_narrow* haystack, const quvex_narrow* needle);
 QUVEX_NOTHROW quvex_wide* QUVEX_002049(const quvex_wide* haystack, const quvex_wide* needle);
 
-/** Case-insensitive substring search: the same, with the units of both folded to lower case. */
+/** `find_folded`: the start of the leftmost occurrence of `needle` in `haystack`, without case, or null.
+    As `find`, with the units of both folded to lower case. */
 QUVEX_NOTHROW quvex_narrow* QUVEX_002013(const quvex_narrow* haystack, const quvex_narrow* needle);
 QUVEX_NOTHROW quvex_wide* QUVEX_002038(const quvex_wide* haystack, const quvex_wide* needle);
 
 /* ---- Tokenize, trim, replace: a set is a string; a character belongs to it if it equals one of the set's ---- */
 
-/** Next token: the start of the first run of characters outside `set` at or after index `*cursor`, or null when none is
-    left. A delimiter that ends the token is overwritten with zero, and the cursor moves just past it; a token that ends
-    the string leaves the cursor on the terminator, as does null. So adjoining delimiters count as one; a caller who
-    wants empty fields looks at `string[*cursor]` before each call.
+/** `next_token`: cut off the next token.
+    The result is the start of the first run of characters outside `set` at or after index `*cursor`, or null when none
+    is left. A delimiter that ends the token is overwritten with zero, and the cursor moves just past it; a token that
+    ends the string leaves the cursor on the terminator, as does null. So adjoining delimiters count as one; a caller
+    who wants empty fields looks at `string[*cursor]` before each call.
     With an empty set the token is the rest of the string. Null, and nothing touched, if a pointer is null.
     `string` is read from the cursor to the end of the token, never before. The caller starts the cursor at 0, or
     elsewhere up to the terminator but not beyond it, and may pass another set on each call. */
 QUVEX_NOTHROW quvex_narrow* QUVEX_002023(quvex_narrow* string, uint32_t* cursor, const quvex_narrow* set);
 QUVEX_NOTHROW quvex_wide* QUVEX_002050(quvex_wide* string, uint32_t* cursor, const quvex_wide* set);
 
-/** Split `string` into tokens from its start, as the calls of next token would, and store a pointer to each in `array`.
+/** `split`: cut `string` into all its tokens and store a pointer to each in `array`.
+    The tokens are those that calls of `next_token` would give from the start on.
     The result is their number; no end marker is stored. 0, and nothing touched, if a pointer is null.
     `array` must have a slot for every token: at most (length + 1) / 2, or 1 with an empty set. */
 QUVEX_NOTHROW int32_t QUVEX_002021(quvex_narrow* string, const quvex_narrow* set, quvex_narrow** array);
 QUVEX_NOTHROW int32_t QUVEX_002048(quvex_wide* string, const quvex_wide* set, quvex_wide** array);
 
-/** Trim the characters of `set` from both ends, in place: what is kept moves to the start of `string`. The result
-    is its length. A null or empty set strips nothing. `string` must not be null, and must be writable even if
-    nothing is stripped. The unit that followed what is kept, where it stood, becomes zero as well; nothing beyond
-    the old terminator is touched. */
+/** `trim`: strip the characters of `set` from both ends, in place.
+    What is kept moves to the start of `string`. The result is its length. A null or empty set strips nothing. `string`
+    must not be null, and must be writable even if nothing is stripped. The unit that followed what is kept, where it
+    stood, becomes zero as well; nothing beyond the old terminator is touched. */
 QUVEX_NOTHROW int32_t QUVEX_002024(quvex_narrow* string, const quvex_narrow* set);
 QUVEX_NOTHROW int32_t QUVEX_002051(quvex_wide* string, const quvex_wide* set);
 
-/** Replace every occurrence of `pattern` in `source`, from left to right and never overlapping, and write the
-    result to `destination`. The result is its length, S + n * (R - P) for n occurrences; what a replacement brings
-    in is not searched.
+/** `replace`: replace every occurrence of `pattern`, or tell the length of the result alone.
+    Occurrences are found from left to right, never overlapping, and the result is written to `destination`. The result
+    is its length, S + n * (R - P) for n occurrences; what a replacement brings in is not searched.
     `destination` must hold that length + 1 units; null asks for the length alone, and nothing is written.
     0, and nothing written, if a string is null or `pattern` is empty.
     In place: `destination` may be `source` if `replacement` is shorter than `pattern`, and also if there is no
@@ -198,45 +211,48 @@ QUVEX_NOTHROW int32_t QUVEX_002047(const quvex_wide* source, const quvex_wide* p
 
 /* ---- Integer and text ---- */
 
-/** Integer to text: `-` for a negative value, then the digits of its magnitude, `0` to `9` and `a` to `z`,
-    terminated.
-    Returns `destination`, null included. It must hold 34 units for any value in any radix, 12 in radix 10, 10 in
-    radix 16.
-    A radix of 0 or less gives the empty string. A radix above 36 goes on after `z`: digit d is the unit 87 + d,
-    modulo 256 (narrow) or 65536 (wide), and so may be a zero that ends the text early. A radix of 1 is for the value 0
-    alone; with another it gives the empty string. */
+/** `to_text`: an integer as text in any radix.
+    `-` for a negative value, then the digits of its magnitude, `0` to `9` and `a` to `z`, terminated.
+    Returns `destination`, null included. It must hold 34 units for any value in any radix, 12 in radix 10, 10 in radix
+    16.
+    A radix of 0 or less gives the empty string. A radix above 36 goes on after `z`: digit d is the unit 87 + d, modulo
+    256 (narrow) or 65536 (wide), and so may be a zero that ends the text early. A radix of 1 is for the value 0 alone;
+    with another it gives the empty string. */
 QUVEX_NOTHROW quvex_narrow* QUVEX_002003(int32_t value, quvex_narrow* destination, int32_t radix);
 QUVEX_NOTHROW quvex_wide* QUVEX_002004(int32_t value, quvex_wide* destination, int32_t radix);
 
-/** Text to integer: blanks and tabs, an optional `-`, then decimal digits, read up to the first unit that is none.
+/** `to_integer`: decimal text as an integer.
+    Blanks and tabs, an optional `-`, then decimal digits, read up to the first unit that is none.
     Modulo 2^32, without an overflow test. 0 for null and for text that does not hold a number there. No `+` is read. */
 QUVEX_NOTHROW int32_t QUVEX_002000(const quvex_narrow* source);
 QUVEX_NOTHROW int32_t QUVEX_002053(const quvex_wide* source);
 
 /* ---- From one width to the other ---- */
 
-/** Escaped narrowing: wide text as printable ASCII. A unit from 32 to 126 stays one character; any other becomes
-    `&(0x`, its 1 to 4 hexadecimal digits in lower case, and `)`. Always terminated; stops before the first piece,
-    character or escape, that does not fit whole, and reads no further.
+/** `escape`: wide text as printable ASCII, every other unit as a visible escape.
+    A unit from 32 to 126 stays one character; any other becomes `&(0x`, its 1 to 4 hexadecimal digits in lower case,
+    and `)`. Always terminated; stops before the first piece, character or escape, that does not fit whole, and reads no
+    further.
     Returns `destination`; if that is null, a constant empty string, the same on every call, which must not be written
     to. A null source gives the empty string. A size of 1 or less gives it too: `destination` must hold 1 unit whatever
     its size. */
 QUVEX_NOTHROW const quvex_narrow* QUVEX_002029(const quvex_wide* source, quvex_narrow* destination, int32_t size);
 
-/** Size-bounded widening copy: the first min(length, size - 1) characters of `source`, each as the wide unit of the
-    same number, always terminated. Returns `destination`, null included. A null source gives the empty string. A
-    size of 1 or less gives it too: `destination` must hold 1 unit whatever its size. No source unit beyond index
-    size - 1 is read. */
+/** `widen`: copy as much of narrow text as fits in `size` wide units, always terminated.
+    The first min(length, size - 1) characters are copied, each as the wide unit of the same number. Returns
+    `destination`, null included. A null source gives the empty string. A size of 1 or less gives it too: `destination`
+    must hold 1 unit whatever its size. No source unit beyond index size - 1 is read. */
 QUVEX_NOTHROW quvex_wide* QUVEX_002001(const quvex_narrow* source, quvex_wide* destination, int32_t size);
 
-/** Widening unit copy: exactly `count` units, zeros among them, each as the wide unit of the same number; no
-    terminator.
-    Nothing happens if either is null or `count` is 0 or less. */
+/** `widen_units`: copy exactly `count` narrow units, zeros among them, to wide ones.
+    Each becomes the wide unit of the same number; no terminator is added. Nothing happens if either is null or `count`
+    is 0 or less. */
 QUVEX_NOTHROW void QUVEX_002002(const quvex_narrow* source, quvex_wide* destination, int32_t count);
 
-/** Wide unit copy: exactly `count` units, zeros among them; no terminator. The two may overlap: the result is that of a
-    copy unit by unit from index 0 on, so that it moves text towards the front, and repeats the first d units when
-    `destination` lies d units after `source`. Nothing happens if either is null or `count` is 0 or less. */
+/** `copy_units`: copy exactly `count` wide units, zeros among them.
+    No terminator is added. The two may overlap: the result is that of a copy unit by unit from index 0 on, so that it
+    moves text towards the front, and repeats the first d units when `destination` lies d units after `source`. Nothing
+    happens if either is null or `count` is 0 or less. */
 QUVEX_NOTHROW void QUVEX_002028(const quvex_wide* source, quvex_wide* destination, int32_t count);
 
 #ifdef __cplusplus

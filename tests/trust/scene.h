@@ -6,7 +6,7 @@
 
 #include "quvex.h"
 
-// One call of one of the fifty operations, described without its width: the arguments by value, then what memory holds
+// One call of an operation, described without its width: the arguments by value, then what memory holds
 // before and after it.
 namespace trust {
 
