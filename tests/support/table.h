@@ -16,7 +16,7 @@ template <class Unit>
 struct Op {
 #define OPERATION(name, narrow, wide, arguments, provides, places) \
   static constexpr auto name = std::get<sizeof(Unit) - 1>(std::tuple(&QUVEX_##narrow, &QUVEX_##wide));
-#include "../trust/operations.def"
+#include "../oracle/operations.def"
 #undef OPERATION
 };
 using Wide = Op<quvex_wide>;

@@ -1,5 +1,5 @@
-#ifndef QUVEX_TESTS_TRUST_SCENE_H
-#define QUVEX_TESTS_TRUST_SCENE_H
+#ifndef TESTS_ORACLE_CALL_H
+#define TESTS_ORACLE_CALL_H
 
 #include <algorithm>
 #include <string_view>
@@ -8,7 +8,7 @@
 
 // One call of an operation, described without its width: the arguments by value, then what memory holds
 // before and after it.
-namespace trust {
+namespace oracle {
 
 #define OPERATION(name, narrow, wide, arguments, provides, places) name,
 enum class Op : uint8_t {
@@ -168,6 +168,6 @@ inline State after(State state, const Case& c) {
   return state;
 }
 
-}  // namespace trust
+}  // namespace oracle
 
 #endif

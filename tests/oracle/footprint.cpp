@@ -1,7 +1,7 @@
 // Notes each load and store of a library that was built to tell them.
-#include "scene.h"
+#include "call.h"
 
-namespace trust {
+namespace oracle {
 
 static void record(const void* address, unsigned size, bool store) {
   const auto offset_in = [=](const void* object) {
@@ -25,11 +25,11 @@ static void record(const void* address, unsigned size, bool store) {
   if (offset_in(__builtin_frame_address(0)) > 512 && !constant) footprint.stray = true;  // Locals lie close above.
 }
 
-}  // namespace trust
+}  // namespace oracle
 
-#define RECORD(bytes)                                                                             \
-  void __sanitizer_cov_load##bytes(const void* address) { trust::record(address, bytes, false); } \
-  void __sanitizer_cov_store##bytes(const void* address) { trust::record(address, bytes, true); }
+#define RECORD(bytes)                                                                              \
+  void __sanitizer_cov_load##bytes(const void* address) { oracle::record(address, bytes, false); } \
+  void __sanitizer_cov_store##bytes(const void* address) { oracle::record(address, bytes, true); }
 extern "C" {
 RECORD(1)
 RECORD(2)

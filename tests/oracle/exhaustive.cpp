@@ -2,9 +2,9 @@
 #include <cstdlib>
 #include <vector>
 
-#include "oracle.h"
+#include "expectation.h"
 
-using namespace trust;
+using namespace oracle;
 using namespace std::string_view_literals;
 
 namespace {

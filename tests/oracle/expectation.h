@@ -1,5 +1,5 @@
-#ifndef QUVEX_TESTS_TRUST_ORACLE_H
-#define QUVEX_TESTS_TRUST_ORACLE_H
+#ifndef TESTS_ORACLE_EXPECTATION_H
+#define TESTS_ORACLE_EXPECTATION_H
 
 #include <cctype>
 #include <charconv>
@@ -7,9 +7,9 @@
 #include <cstring>
 #include <string>
 
-#include "scene.h"
+#include "call.h"
 
-namespace trust {
+namespace oracle {
 
 inline std::u16string digits(uint32_t magnitude, uint32_t radix) {
   if (radix <= 36) {
@@ -253,6 +253,6 @@ inline int check(const Case& c) {
   return 1;
 }
 
-}  // namespace trust
+}  // namespace oracle
 
 #endif

@@ -1,9 +1,9 @@
 // Any input is a call of an operation, held to what the standard library expects of it.
 #include <cstdlib>
 
-#include "oracle.h"
+#include "expectation.h"
 
-namespace trust {
+namespace oracle {
 
 // Any bytes as a call; what is missing reads as zero. The case looks into the decoder, and may be none that is valid.
 struct Decoder {
@@ -53,11 +53,11 @@ struct Decoder {
   }
 };
 
-}  // namespace trust
+}  // namespace oracle
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
-  trust::Decoder decoder{bytes, bytes + size, {}};
-  const trust::Case c = decoder.decode();
+  oracle::Decoder decoder{bytes, bytes + size, {}};
+  const oracle::Case c = decoder.decode();
   if (!is_valid(c)) return -1;
   if (check(c)) std::abort();
   return 0;
