@@ -1,6 +1,5 @@
 // Every string up to a bound over an alphabet of its interesting units, with every number around it.
 #include <cstdlib>
-#include <vector>
 
 #include "expectation.h"
 
@@ -28,15 +27,24 @@ const Family families[] = {
 #include "families.def"
 };
 
+// The next string of its length in the alphabet's order, from `start` on; false, and the first again, after the last.
+bool advance(std::u16string& string, Text alphabet, size_t start) {
+  for (size_t i = string.size(); i-- > start;) {
+    const size_t next = alphabet.find(string[i]) + 1;
+    string[i] = alphabet[next % alphabet.size()];
+    if (next < alphabet.size()) return true;
+  }
+  return false;
+}
+
 // Null, then every string that continues a start of the alphabet's first unit, up to a length.
 template <class Visit>
 void each_string(Text alphabet, int start, int longest, Visit visit) {
   visit(Text());
-  std::vector<std::u16string> strings(longest >= start, std::u16string(size_t(start), alphabet[0]));
-  for (size_t i = 0; i < strings.size(); ++i) {
-    visit(strings[i]);
-    if (int(strings[i].size()) == longest) continue;
-    for (const char16_t unit : alphabet) strings.push_back(strings[i] + unit);
+  for (int length = start; length <= longest; ++length) {
+    std::u16string string(size_t(length), alphabet[0]);
+    do visit(string);
+    while (advance(string, alphabet, size_t(start)));
   }
 }
 
