@@ -5,7 +5,7 @@ if(NOT EXISTS ${googletest}/src/gtest-all.cc)
 endif()
 
 add_library(board_googletest STATIC EXCLUDE_FROM_ALL
-  ${googletest}/src/gtest-all.cc ${googletest}/src/gtest_main.cc ${PROJECT_SOURCE_DIR}/platform/newlib.c)
+  ${googletest}/src/gtest-all.cc ${googletest}/src/gtest_main.cc)
 target_include_directories(board_googletest PRIVATE ${googletest})
 target_include_directories(board_googletest SYSTEM PUBLIC ${googletest}/include)
 target_compile_definitions(board_googletest PUBLIC
@@ -13,9 +13,7 @@ target_compile_definitions(board_googletest PUBLIC
   _POSIX_PATH_MAX=128)                                                                            # nor this limit
 target_compile_options(board_googletest
   PRIVATE -w -ffunction-sections -fdata-sections  # not our warnings; an image keeps what it uses
-  PUBLIC -fno-exceptions                          # the Cortex-M55's board has 512 KB for code
-         -Wno-psabi)                              # a note on a change of GCC 7, in its headers
+  PUBLIC -Wno-psabi)                              # a note on a change of GCC 7, in its headers
 set_target_properties(board_googletest PROPERTIES CXX_EXTENSIONS ON)  # fileno is no C++17
-target_link_libraries(board_googletest PUBLIC board_start)
-target_link_options(board_googletest PUBLIC --specs=rdimon.specs)  # newlib's system calls over semihosting
+target_link_libraries(board_googletest PUBLIC board_libc)
 add_library(GTest::gtest_main ALIAS board_googletest)

@@ -17,7 +17,7 @@ __attribute__((noreturn)) void board_exit(int status);
 
 enum board_access { BOARD_ACCESS_ALL, BOARD_ACCESS_READ, BOARD_ACCESS_NONE };
 
-/* Cortex-M only: let the memory protection unit refuse what `access` does not allow. The image then ends with a line
+/* Cortex-M3 and up: let the memory protection unit refuse what `access` does not allow. The image then ends with a line
    that names the address. `area` is 0 to 7, each in force until it is set anew; `size` is a power of two, 32 or more,
    and `address` a multiple of it. */
 void board_protect(int area, const volatile void* address, uint32_t size, enum board_access access);

@@ -7,38 +7,18 @@ extern uint32_t board_stack_top[];
 
 static volatile uint32_t* device(uint32_t address) { return (volatile uint32_t*)address; }
 
-enum { UART_DATA, UART_STATE, UART_CONTROL, UART_DIVIDER = 4 };
-enum { UART_TRANSMITTER = 1, UART_RECEIVER = 2 }; /* in control: on; in state: full */
-
-int board_read(void) {
-  while (!(device(BOARD_UART)[UART_STATE] & UART_RECEIVER)) {
-  }
-  return (int)(device(BOARD_UART)[UART_DATA] & 0xff);
-}
-
-void board_write(char character) {
-  while (device(BOARD_UART)[UART_STATE] & UART_TRANSMITTER) {
-  }
-  device(BOARD_UART)[UART_DATA] = (unsigned char)character;
-}
-
-enum { SEMIHOST_COMMAND_LINE = 0x15, SEMIHOST_EXIT = 0x20 };
-
-static int semihost(int operation, const void* parameters) {
+int board_semihost(int operation, const void* parameters) {
   register int r0 __asm__("r0") = operation;
   register const void* r1 __asm__("r1") = parameters;
   __asm__ volatile("bkpt 0xab" : "+r"(r0) : "r"(r1) : "memory");
   return r0;
 }
 
-void board_exit(int status) {
-  const uint32_t application_exit[] = {0x20026, (uint32_t)status};
-  for (;;) semihost(SEMIHOST_EXIT, application_exit);
-}
-
 #define SYSTEM_CONTROL 0xe000ed00
 #define FAULT_STATUS device(SYSTEM_CONTROL + 0x28)
 #define FAULT_ADDRESS device(SYSTEM_CONTROL + 0x34)
+
+#if __ARM_ARCH >= 7
 #define MPU_CONTROL device(SYSTEM_CONTROL + 0x94)
 #define MPU_NUMBER device(SYSTEM_CONTROL + 0x98)
 #define MPU_BASE device(SYSTEM_CONTROL + 0x9c)
@@ -63,6 +43,7 @@ void board_protect(int area, const volatile void* address, uint32_t size, enum b
   *MPU_CONTROL = 5; /* on, and all else as without it */
   __asm__ volatile("dsb\n\tisb" ::: "memory");
 }
+#endif
 
 __attribute__((used, noreturn)) static void report_fault(const uint32_t* frame) {
   const uint32_t status = *FAULT_STATUS;
@@ -72,25 +53,6 @@ __attribute__((used, noreturn)) static void report_fault(const uint32_t* frame) 
 }
 
 __attribute__((naked)) static void fault(void) { __asm__("mov r0, sp\n\tb report_fault"); }
-
-static int split_arguments(char* line, char** arguments, int limit) {
-  int count = 0;
-  while (*line && count < limit) {
-    arguments[count++] = line;
-    while (*line && *line != ' ') ++line;
-    if (*line) *line++ = 0;
-  }
-  return count;
-}
-
-int board_open(char** arguments, int limit) {
-  device(BOARD_UART)[UART_DIVIDER] = 217; /* 115,200 baud at 25 MHz */
-  device(BOARD_UART)[UART_CONTROL] = UART_TRANSMITTER | UART_RECEIVER;
-
-  static char line[1024];
-  const uint32_t command_line[] = {(uint32_t)line, sizeof line};
-  return semihost(SEMIHOST_COMMAND_LINE, command_line) == 0 ? split_arguments(line, arguments, limit) : 0;
-}
 
 void board_reset(void) { board_run(); }
 

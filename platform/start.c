@@ -11,13 +11,37 @@ extern uint32_t board_data_load[], board_data[], board_data_end[], board_bss[], 
 extern void (*const board_constructors[])(void);
 extern void (*const board_constructors_end[])(void);
 
+enum { SEMIHOST_COMMAND_LINE = 0x15, SEMIHOST_EXIT = 0x20 };
+
+void board_exit(int status) {
+  const uint32_t application_exit[] = {0x20026, (uint32_t)status};
+  for (;;) board_semihost(SEMIHOST_EXIT, application_exit);
+}
+
+static int split_arguments(char* line, char** arguments, int limit) {
+  int count = 0;
+  while (*line && count < limit) {
+    arguments[count++] = line;
+    while (*line && *line != ' ') ++line;
+    if (*line) *line++ = 0;
+  }
+  return count;
+}
+
+static int read_arguments(char** arguments, int limit) {
+  static char line[1024];
+  const uintptr_t command_line[] = {(uintptr_t)line, sizeof line};
+  return board_semihost(SEMIHOST_COMMAND_LINE, command_line) == 0 ? split_arguments(line, arguments, limit) : 0;
+}
+
 void board_run(void) {
   const uint32_t* load = board_data_load;
   for (uint32_t* word = board_data; word != board_data_end;) *word++ = *load++;
   for (uint32_t* word = board_bss; word != board_bss_end;) *word++ = 0;
 
+  board_open();
   static char* arguments[16];
-  const int argument_count = board_open(arguments, 15);
+  const int argument_count = read_arguments(arguments, 15);
   if (initialise_monitor_handles) initialise_monitor_handles();
   for (void (*const* constructor)(void) = board_constructors; constructor != board_constructors_end;)
     (*constructor++)();

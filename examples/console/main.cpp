@@ -70,11 +70,12 @@ void print_help() {
 }
 
 void print_unit(int32_t unit, bool is_wide) {
-  char text[8] = {'\'', static_cast<char>(unit), '\'', 0};
-  if (unit >= ' ' && unit <= '~') return print(text);
+  const char quoted[] = {'\'', static_cast<char>(unit), '\'', 0};
+  if (unit >= ' ' && unit <= '~') return print(quoted);
   if (!unit) return print("0");
-  quvex::to_text((is_wide ? 0x10000 : 0x100) + unit, text, 16);  // The 1 in front keeps leading zeros.
-  print(is_wide ? "\\u" : "\\x", text + 1);
+  char digits[8];
+  quvex::to_text((is_wide ? 0x10000 : 0x100) + unit, digits, 16);  // The 1 in front keeps leading zeros.
+  print(is_wide ? "\\u" : "\\x", digits + 1);
 }
 
 void print_units(const Argument& argument) {

@@ -1,0 +1,9 @@
+set(BOARD_CORE cortex-m0)
+set(BOARD_MACHINE microbit)  # as QEMU names it
+set(BOARD_CODE 0x00000000)
+set(BOARD_CODE_SIZE 256K)
+set(BOARD_DATA 0x20000000)
+set(BOARD_DATA_SIZE 16K)
+set(BOARD_UART_KIND nrf51)
+set(BOARD_UART 0x40002000)
+include(${CMAKE_CURRENT_LIST_DIR}/cortex-m.cmake)
