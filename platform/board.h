@@ -7,7 +7,7 @@
 extern "C" {
 #endif
 
-/* The next byte of the UART, waited for. 4 (Ctrl-D) ends an input: the emulator does not tell the end of its own. */
+/* The next byte of the UART, waited for. */
 int board_read(void);
 
 void board_write(char character);

@@ -1,5 +1,6 @@
 // Reads NMEA sentences from the UART and says of each, in one line, what position it gives or why it is skipped.
 
+#include "../input.h"
 #include "../print.h"
 #include "event_log.h"
 #include "nmea.h"
@@ -13,14 +14,13 @@ struct Line {
 };
 
 void read_line(Line* line) {
-  constexpr int end_of_input = 4;
   uint32_t length = 0;
   line->flaw = nullptr;
   int byte;
-  while ((byte = board_read()) != '\n' && byte != end_of_input) {
+  while ((byte = read_byte()) != '\n' && byte != end_of_input) {
     if (byte == 0) line->flaw = "zero byte";
     if (length == sizeof line->text - 1) line->flaw = "line too long";
-    // A flawed line is read to its end all the same: the next one starts behind it.
+    // A flawed line is read to its end all the same: the next one starts after it.
     if (!line->flaw) line->text[length++] = static_cast<char>(byte);
   }
   line->text[length] = 0;
