@@ -43,17 +43,29 @@ struct Form {
   Outcome (*call)(Argument* arguments);  // null: there is no such form
   const Kind* kinds;
   int32_t count;
+  const char* link_name;
 };
+
+// Why the contract excludes a call, or null.
+using Refuse = const char*(const Form& form, Argument* arguments);
 
 struct Operation {
   const char* name;
   const char* parameters;  // in the order of the call; what stands in brackets may be left out
+  const char* summary;
   Form narrow, wide;
-  const char* (*refuse)(const Form& form, Argument* arguments);  // why the contract excludes a call, or null
+  Refuse* refuse;
 };
 
 extern const Operation operations[];
 extern const Operation* const operations_end;
+
+// What may be typed for an argument.
+const char* takes(Kind kind);
+
+// The operation of this name or link name; whether that is the link name of its wide form. Null, and a line that says
+// so, if there is none.
+const Operation* find_operation(const char* name, bool* is_wide);
 
 struct Call {
   const Operation* operation;

@@ -1,5 +1,6 @@
 // A console on the UART: type an operation and its arguments, and see its result and the units that it wrote.
 
+#include "../input.h"
 #include "../print.h"
 #include "call.h"
 
@@ -14,35 +15,42 @@ struct Line {
 
 void rub_out(Line* line) {
   if (!line->length) return;
-  do {
-    --line->length;
-  } while (line->length && (line->text[line->length] & 0xc0) == 0x80);  // the bytes of one UTF-8 character together
+  --line->length;
   line->is_cut = false;
   print("\b \b");
 }
 
+// What is no printable ASCII arrives as the escape that stands for it in a text, so that nothing else is ever echoed.
 void put(Line* line, int byte) {
-  if (line->length < sizeof line->text - 1) {
-    line->text[line->length++] = static_cast<char>(byte);
-    board_write(static_cast<char>(byte));
-  } else if (!line->is_cut) {
-    line->is_cut = true;
-    print("\a");
+  if (byte == '\t') byte = ' ';
+  char shown[5];
+  shown[0] = static_cast<char>(byte);
+  shown[1] = 0;
+  if (byte < ' ' || byte > '~') {
+    quvex::to_text(0x100 + byte, shown + 1, 16);  // The 1 in front keeps a leading zero, and makes room for the x.
+    shown[0] = '\\';
+    shown[1] = 'x';
   }
+  const auto length = static_cast<uint32_t>(quvex::length(shown));
+  line->is_cut = line->is_cut || line->length + length >= sizeof line->text;
+  if (line->is_cut) return;
+  quvex::copy_bounded(line->text + line->length, sizeof shown, shown);
+  line->length += length;
+  print(shown);
 }
 
 // What is typed is echoed, as consoles on a serial line do: a terminal is in raw mode meanwhile. So what comes from a
-// pipe shows behind its prompt too.
+// pipe shows after its prompt too.
 void read_line(Line* line) {
-  enum { interrupt = 3, end_of_input = 4, backspace = 8, kill = 21, escape = 27, rubout = 127 };
-  static int byte = 0;       // kept from line to line: a line feed behind a return ends no second line
+  enum { interrupt = 3, backspace = 8, kill = 21, escape = 27, rubout = 127 };
+  static int byte = 0;       // kept from line to line: a line feed after a return ends no second line
   bool is_sequence = false;  // that a cursor key sends
   line->length = 0;
   line->is_cut = false;
   print("> ");
   while (true) {
     const int previous = byte;
-    byte = board_read();
+    byte = read_byte();
     if (byte == '\n' && previous == '\r') continue;
     if (byte == '\r' || byte == '\n' || byte == end_of_input) break;
     if (is_sequence && byte >= ' ') {
@@ -50,23 +58,48 @@ void read_line(Line* line) {
       continue;
     }
     is_sequence = byte == escape;
-    if (byte == backspace || byte == rubout) rub_out(line);
-    while (line->length && (byte == kill || byte == interrupt)) rub_out(line);
-    if (byte != rubout && (byte >= ' ' || byte == '\t')) put(line, byte == '\t' ? ' ' : byte);
+    if (byte == backspace || byte == rubout) {
+      rub_out(line);
+    } else if (byte == kill || byte == interrupt) {
+      while (line->length) rub_out(line);
+    } else if (byte != escape) {
+      put(line, byte);
+    }
   }
   line->is_last = byte == end_of_input;
   line->text[line->length] = 0;
   print("\n");
 }
 
+void print_form(const Operation& operation) {
+  print(!operation.wide.call ? "       " : operation.narrow.call ? "[wide] " : " wide  ");
+  print(operation.name, " ", operation.parameters, "\n");
+}
+
 void print_help() {
-  for (const Operation* operation = operations; operation < operations_end; ++operation) {
-    print(!operation->wide.call ? "       " : operation->narrow.call ? "[wide] " : " wide  ");
-    print(operation->name, " ", operation->parameters, "\n");
-  }
-  print("Texts and numbers come in this order, or as name=value; what stands in brackets may be left out.\n");
-  print("Values: \"text\\x80\\u4e2d\", 'c', a number, null, or another text's name, as in destination=source+1.\n");
+  for (const Operation* operation = operations; operation < operations_end; ++operation) print_form(*operation);
+  print("Arguments stand in this order, or as name=value; those in brackets may be left out.\n");
+  print("Values: \"text\\x80\\u4e2d\", 'c', 16, 0x10, null, or another text's name, as in destination=source+1.\n");
   print("Units: 'c', \\xHH or \\uHHHH, 0 for a terminator, # where the marker \\xa5 or \\ua5a5 still stands.\n");
+  print("help NAME tells more of an operation. A name as in C or C++ and a link name will do. quit ends.\n");
+}
+
+void print_help_on(char* name) {
+  bool is_wide;
+  quvex::trim(name, " ");
+  const Operation* operation = find_operation(name, &is_wide);
+  if (!operation) return;
+  print_form(*operation);
+  print("What it does: ", operation->summary, ".\n");
+  const Form* form = operation->narrow.call ? &operation->narrow : &operation->wide;
+  print("Link name: ", form->link_name);
+  if (form != &operation->wide && operation->wide.call) print(", wide ", operation->wide.link_name);
+  print("\n");
+  char names[80];
+  char* parameters[4];
+  quvex::copy(names, operation->parameters);
+  const int32_t count = quvex::split(names, " ", parameters);
+  for (int32_t i = 0; i < count; ++i) print("  ", parameters[i], " takes ", takes(form->kinds[i]), "\n");
 }
 
 void print_unit(int32_t unit, bool is_wide) {
@@ -136,14 +169,18 @@ void run(const Call& call, Argument* arguments) {
 int main() {
   static Call call;
   static Line line;
-  print("Type an operation and its arguments, or help. Ctrl-D ends.\n");
+  print("Type an operation and its arguments, or help. Ctrl-D or quit ends.\n");
   do {
     read_line(&line);
     quvex::trim(line.text, " ");
     if (line.is_cut) {
       print("? the line is longer than 199 characters\n");
-    } else if (quvex::compare_counted(line.text, "help", 4) == 0) {
+    } else if (quvex::compare(line.text, "quit") == 0 || quvex::compare(line.text, "exit") == 0) {
+      break;
+    } else if (quvex::compare(line.text, "help") == 0) {
       print_help();
+    } else if (quvex::compare_counted(line.text, "help ", 5) == 0) {
+      print_help_on(line.text + 5);
     } else if (*line.text && read_call(line.text, &call)) {
       run(call, call.arguments);
     }

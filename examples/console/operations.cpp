@@ -42,13 +42,13 @@ Outcome invoke(void (*operation)(Type...), Argument* arguments, Indices<Index...
 // A form follows from the declaration in quvex.h.
 template <auto operation>
 struct Declared {
-  static constexpr Form form = {nullptr, nullptr, 0};
+  static constexpr Form form(const char*) { return {}; }
 };
 template <class Result, class... Type, Result (*operation)(Type...)>
 struct Declared<operation> {
   static Outcome call(Argument* arguments) { return invoke(operation, arguments, CountUp<sizeof...(Type)>()); }
   static constexpr Kind kinds[] = {kind_of(Type())...};
-  static constexpr Form form = {call, kinds, sizeof...(Type)};
+  static constexpr Form form(const char* link_name) { return {call, kinds, sizeof...(Type), link_name}; }
 };
 
 bool overlap(const Argument& first, const Argument& second) {
@@ -63,7 +63,7 @@ const char* overlaps(const Form& form, Argument* arguments) {
   for (int32_t i = 0; i < form.count; ++i) {
     for (int32_t j = 0; j < form.count; ++j) {
       if (i != j && arguments[i].is_buffer() && overlap(arguments[i], arguments[j])) {
-        return "what is written must not overlap what is read";
+        return "what is written must not overlap what is read: give each its own text";
       }
     }
   }
@@ -77,16 +77,18 @@ const char* overlaps_unless_same(const Form& form, Argument* arguments) {
 
 const char* exceeds(const Form&, Argument* arguments) {
   const int32_t offset = arguments[0].offset + arguments[1].offset;
-  return arguments[2].number > Argument::capacity - offset ? "count is beyond the console's buffers" : nullptr;
+  return arguments[2].number > Argument::capacity - offset
+             ? "count is beyond the console's buffers: it takes 640 less the offsets at most"
+             : nullptr;
 }
 
 const char* leaves_string(const Form& form, Argument* arguments) {
   const bool is_inside = arguments[0].is_null || arguments[1].is_null || arguments[1].number <= arguments[0].length;
-  return is_inside ? overlaps(form, arguments) : "cursor must be within string";
+  return is_inside ? overlaps(form, arguments) : "cursor must be within string: from 0 to its length";
 }
 
 const char* trims_null(const Form& form, Argument* arguments) {
-  return arguments[0].is_null ? "string must not be null" : overlaps(form, arguments);
+  return arguments[0].is_null ? "string must not be null; \"\" is an empty one" : overlaps(form, arguments);
 }
 
 const char* replaces_badly(const Form& form, Argument* arguments) {
@@ -104,46 +106,40 @@ const char* replaces_badly(const Form& form, Argument* arguments) {
   destination.is_null = true;
   const bool fits = form.call(arguments).value < Argument::capacity;
   destination.is_null = false;
-  return fits ? overlaps(form, arguments) : "the result is beyond the console's buffers";
+  return fits ? overlaps(form, arguments) : "the result is beyond the console's buffers: it takes 639 units at most";
 }
 
-template <auto narrow, auto wide = nullptr>
-constexpr Operation row(const char* name, const char* parameters,
-                        const char* (*refuse)(const Form&, Argument*) = overlaps) {
-  return {name, parameters, Declared<narrow>::form, Declared<wide>::form, refuse};
-}
+// By link name, the narrow one if there is one.
+template <auto operation>
+constexpr Refuse* refusal = overlaps;
+template <>
+constexpr Refuse* refusal<QUVEX_002009> = overlaps_unless_same;  // copy
+template <>
+constexpr Refuse* refusal<QUVEX_002010> = overlaps_unless_same;  // copy_bounded
+template <>
+constexpr Refuse* refusal<QUVEX_002017> = overlaps_unless_same;  // copy_counted
+template <>
+constexpr Refuse* refusal<QUVEX_002023> = leaves_string;  // next_token
+template <>
+constexpr Refuse* refusal<QUVEX_002024> = trims_null;  // trim
+template <>
+constexpr Refuse* refusal<QUVEX_002020> = replaces_badly;  // replace
+template <>
+constexpr Refuse* refusal<QUVEX_002002> = exceeds;  // widen_units
+template <>
+constexpr Refuse* refusal<QUVEX_002028> = exceeds;  // copy_units
+template <auto narrow, auto wide>
+constexpr Refuse* refusal_of = refusal<narrow>;
+template <auto wide>
+constexpr Refuse* refusal_of<nullptr, wide> = refusal<wide>;
 
 }  // namespace
 
+// The rows are derived from quvex.h.
 const Operation operations[] = {
-    row<QUVEX_002014, QUVEX_002039>("length", "string"),
-    row<QUVEX_002009, QUVEX_002034>("copy", "[destination] source", overlaps_unless_same),
-    row<QUVEX_002010, QUVEX_002035>("copy_bounded", "[destination] size source", overlaps_unless_same),
-    row<QUVEX_002017, QUVEX_002044>("copy_counted", "[destination] source count", overlaps_unless_same),
-    row<QUVEX_002005, QUVEX_002030>("append", "destination source"),
-    row<QUVEX_002006, QUVEX_002031>("append_bounded", "destination size source"),
-    row<nullptr, QUVEX_002041>("append_counted", "destination source count"),
-    row<nullptr, QUVEX_002042>("append_bounded_counted", "destination size source count"),
-    row<QUVEX_002026>("character_to_lower", "character"),
-    row<QUVEX_002027>("character_to_upper", "character"),
-    row<QUVEX_002015, QUVEX_002040>("to_lower", "string"),
-    row<QUVEX_002025, QUVEX_002052>("to_upper", "string"),
-    row<QUVEX_002008, QUVEX_002033>("compare", "first second"),
-    row<QUVEX_002016, QUVEX_002043>("compare_counted", "first second count"),
-    row<QUVEX_002012, QUVEX_002037>("compare_folded", "first second"),
-    row<QUVEX_002019, QUVEX_002046>("compare_folded_counted", "first second count"),
-    row<QUVEX_002007, QUVEX_002032>("find_character", "string character"),
-    row<QUVEX_002022, QUVEX_002049>("find", "haystack needle"),
-    row<QUVEX_002013, QUVEX_002038>("find_folded", "haystack needle"),
-    row<QUVEX_002023, QUVEX_002050>("next_token", "string [cursor] set", leaves_string),
-    row<QUVEX_002021, QUVEX_002048>("split", "string set [array]"),
-    row<QUVEX_002024, QUVEX_002051>("trim", "string set", trims_null),
-    row<QUVEX_002020, QUVEX_002047>("replace", "source pattern replacement [destination]", replaces_badly),
-    row<QUVEX_002003, QUVEX_002004>("to_text", "value [destination] radix"),
-    row<QUVEX_002000, QUVEX_002053>("to_integer", "source"),
-    row<QUVEX_002029>("escape", "source [destination] size"),
-    row<QUVEX_002001>("widen", "source [destination] size"),
-    row<QUVEX_002002>("widen_units", "source [destination] count", exceeds),
-    row<nullptr, QUVEX_002028>("copy_units", "source [destination] count", exceeds),
+#define OPERATION(name, narrow, wide, parameters, summary) \
+  {#name, parameters, summary, Declared<narrow>::form(#narrow), Declared<wide>::form(#wide), refusal_of<narrow, wide>},
+#include "operations.inc"
+#undef OPERATION
 };
 const Operation* const operations_end = operations + sizeof operations / sizeof *operations;

@@ -24,22 +24,56 @@ bool fail_unknown(const char* name) {
                  : fail("no operation ", name, "; help lists them");
 }
 
+// Step over a unit, and the one after a backslash between quotes. The result is the quote that is open now, or 0.
+char step(const char** unit, char quote) {
+  const char first = *(*unit)++;
+  if (!quote) return first == '"' || first == '\'' ? first : '\0';
+  if (first == '\\' && **unit) ++*unit;
+  return first == quote ? '\0' : quote;
+}
+
+// Put blanks in place of what C sets around and between arguments.
+void clear_punctuation(char* line) {
+  char quote = 0;
+  while (*line) {
+    if (!quote && quvex::find_character("(),;\t", *line)) *line = ' ';
+    const char* next = line;
+    quote = step(&next, quote);
+    line += next - line;
+  }
+}
+
 bool read_operation(char* line, uint32_t* cursor, Call* call) {
   const char* name = quvex::next_token(line, cursor, " ");
-  const bool is_wide = quvex::compare(name, "wide") == 0;
+  bool is_wide = quvex::compare(name, "wide") == 0;
   if (is_wide) name = quvex::next_token(line, cursor, " ");
-  if (!name) return fail("wide stands before an operation");
-  const Operation* operation = operations;
-  while (operation < operations_end && quvex::compare(name, operation->name) != 0) ++operation;
-  if (operation == operations_end) return fail_unknown(name);
-  if (is_wide && !operation->wide.call) return fail(name, " has no wide form");
+  if (!name) return fail("no operation is named; help lists them");
+  bool is_wide_link;
+  const Operation* operation = find_operation(name, &is_wide_link);
+  if (!operation) return false;
+  if (is_wide && !operation->wide.call) return fail(name, " has no wide form; type it without wide");
+  is_wide = is_wide || is_wide_link || !operation->narrow.call;
   call->operation = operation;
-  call->form = is_wide || !operation->narrow.call ? &operation->wide : &operation->narrow;
+  call->form = is_wide ? &operation->wide : &operation->narrow;
   return true;
 }
 
+// Whether an argument that may be left out must come by its name: fewer values than arguments stand in the line, or it
+// does come by its name.
+bool is_named_or_left_out(const Call& call, const Argument& argument, const char* line) {
+  const int32_t length = quvex::length(argument.name);
+  int32_t values = 0;
+  while (true) {
+    while (*line == ' ') ++line;
+    if (!*line) return values < call.form->count;
+    if (quvex::compare_counted(line, argument.name, length) == 0 && line[length] == '=') return true;
+    ++values;
+    for (char quote = 0; *line && (quote || *line != ' ');) quote = step(&line, quote);
+  }
+}
+
 // Give each argument its name, and markers to point to.
-void prepare(Call* call) {
+void prepare(Call* call, const char* line) {
   static char names[80];
   char* name[4];
   quvex::copy(names, call->operation->parameters);
@@ -47,8 +81,9 @@ void prepare(Call* call) {
   for (int32_t i = 0; i < call->form->count; ++i) {
     Argument& argument = call->arguments[i];
     argument.name = name[i];
-    argument.is_optional = *name[i] == '[';
+    const bool is_bracketed = *name[i] == '[';
     quvex::trim(name[i], "[]");
+    argument.is_optional = is_bracketed && is_named_or_left_out(*call, argument, line);
     argument.kind = call->form->kinds[i];
     argument.is_given = argument.is_null = false;
     argument.owner = &argument;
@@ -65,15 +100,30 @@ Argument* find_named(Call* call, const char* name) {
   return nullptr;
 }
 
-// The first that must still be given, of those that a value with this first character suits; any for 0.
+bool begins_number(char first) { return quvex::find_character("-0123456789", first); }
+
+// Whether a value with this first character may be meant for the argument; any for 0.
+bool suits(const Argument& argument, char first) {
+  const bool is_number = argument.kind == Kind::number;
+  if (first == '"') return argument.is_text();
+  if (first == '\'') return is_number;
+  if (begins_number(first)) return is_number || argument.kind == Kind::cursor;
+  return !first || !is_number;
+}
+
+// The first that must still be given, of those that a value with this first character suits.
 Argument* find_missing(Call* call, char first) {
-  const bool is_number = quvex::find_character("'-0123456789", first);
   for (int32_t i = 0; i < call->form->count; ++i) {
     Argument& argument = call->arguments[i];
-    if (argument.is_given || argument.is_optional) continue;
-    if (!first || is_number == (argument.kind == Kind::number)) return &argument;
+    if (!argument.is_given && !argument.is_optional && suits(argument, first)) return &argument;
   }
   return nullptr;
+}
+
+int32_t digit(char character) {
+  const char* digits = "0123456789abcdef";
+  const char* found = quvex::find_character(digits, quvex::character_to_lower(character));
+  return found ? static_cast<int32_t>(found - digits) : -1;
 }
 
 // One unit between quotes; -1 if there is none, or a malformed escape.
@@ -88,10 +138,8 @@ int32_t read_unit(const char** text) {
   ++*text;
   int32_t number = 0;
   for (int32_t digits = kind == 'x' ? 2 : 4; digits > 0; --digits, ++*text) {
-    const char* values = "0123456789abcdef";
-    const char* found = quvex::find_character(values, quvex::character_to_lower(**text));
-    if (!found) return -1;
-    number = number * 16 + static_cast<int32_t>(found - values);
+    if (digit(**text) < 0) return -1;
+    number = number * 16 + digit(**text);
   }
   return number;
 }
@@ -104,13 +152,16 @@ void set_unit(Argument* argument, int32_t index, int32_t unit) {
   }
 }
 
-bool read_text(Argument* argument, const char** text) {
+bool read_text(const Call& call, Argument* argument, const char** text) {
   while (**text != '"') {
-    if (!**text) return fail(argument->name, " has no closing quote");
-    if (argument->length == Argument::longest_text) return fail(argument->name, " has more than 64 units");
+    if (!**text) return fail(argument->name, " lacks its closing quote");
+    if (argument->length == Argument::longest_text) return fail(argument->name, " takes 64 units at most");
     const int32_t unit = read_unit(text);
     if (unit < 0) return fail("an escape in ", argument->name, " is none of \\xHH \\uHHHH \\\\ \\\" \\'");
-    if (unit > 255 && !argument->is_wide()) return fail(argument->name, " is narrow: no unit goes above \\xff");
+    if (unit > 255 && !argument->is_wide()) {
+      const bool has_twin = call.operation->wide.call;
+      return fail(argument->name, " is narrow and goes to \\xff", has_twin ? "; type wide before the operation" : "");
+    }
     set_unit(argument, argument->length++, unit);
   }
   set_unit(argument, argument->length, 0);
@@ -118,10 +169,20 @@ bool read_text(Argument* argument, const char** text) {
 }
 
 bool read_number(const char* word, int32_t* number) {
-  *number = quvex::to_integer(word);
-  char text[12];
-  // It reads back as it was typed unless something was lost on the way.
-  return quvex::compare(quvex::to_text(*number, text, 10), word) == 0;
+  if (quvex::compare_folded_counted(word, "0x", 2) != 0) {
+    *number = quvex::to_integer(word);
+    char text[12];
+    // It reads back as it was typed unless something was lost on the way.
+    return quvex::compare(quvex::to_text(*number, text, 10), word) == 0;
+  }
+  const int32_t length = quvex::length(word);
+  uint32_t bits = 0;
+  for (int32_t i = 2; i < length; ++i) {
+    if (digit(word[i]) < 0) return false;
+    bits = bits * 16 + static_cast<uint32_t>(digit(word[i]));
+  }
+  *number = static_cast<int32_t>(bits);
+  return length > 2 && length <= 10;
 }
 
 // The name of another argument, plus an offset or not.
@@ -129,49 +190,58 @@ bool read_alias(Call* call, Argument* argument, char* word) {
   char* plus = quvex::find_character(word, '+');
   if (plus) *plus = 0;
   Argument* owner = find_named(call, word);
-  if (!owner) return fail(argument->name, " takes \"text\", null or another argument's name, not ", word);
+  if (!owner)
+    return fail(argument->name, " takes ", takes(argument->kind), ", not ", word, "; text stands in quotes: \"", word,
+                "\"");
   if (!owner->is_text() || !owner->is_given || owner->is_null || owner->owner != owner) {
-    return fail(word, " has no text of its own yet");
+    return fail(word, " has no text of its own yet: give it one before, as in ", word, "=\"text\"");
   }
-  if (owner->is_wide() != argument->is_wide()) return fail(word, " has the other width");
-  if (plus && !read_number(plus + 1, &argument->offset)) return fail("no offset: ", plus + 1);
-  if (argument->offset < 0 || argument->offset > owner->length) return fail("the offset leaves ", word);
+  if (owner->is_wide() != argument->is_wide())
+    return fail(word, " has the other width: give ", argument->name, " a text of its own");
+  if (plus && !read_number(plus + 1, &argument->offset)) return fail("an offset is a number of units, not ", plus + 1);
+  if (argument->offset < 0 || argument->offset > owner->length) {
+    return fail("the offset leaves ", word, ", which has a length of ", owner->length);
+  }
   argument->owner = owner;
   return true;
 }
 
 bool read_word(Call* call, Argument* argument, char* word) {
-  if (argument->kind == Kind::number) {
-    return read_number(word, &argument->number) ||
-           fail(argument->name, " takes a 'c' or a number from -2147483648 to 2147483647, not ", word);
+  const bool is_index = argument->kind == Kind::cursor;
+  if (argument->kind == Kind::number || (is_index && begins_number(*word))) {
+    if (!read_number(word, &argument->number) || (is_index && argument->number < 0)) {
+      return fail(argument->name, " takes ", takes(argument->kind), ", not ", word);
+    }
+    if (is_index) argument->cursor = static_cast<uint32_t>(argument->number);
+    return true;
   }
+  // Its own name stands for what the console provides.
+  const bool is_provided = argument->kind == Kind::array || is_index || argument->is_buffer();
+  if (is_provided && quvex::compare(word, argument->name) == 0) return true;
   argument->is_null = quvex::compare(word, "null") == 0;
   if (argument->is_null) return true;
   if (argument->is_text()) return read_alias(call, argument, word);
-  if (argument->kind == Kind::array || !read_number(word, &argument->number) || argument->number < 0) {
-    return fail(argument->name, argument->kind == Kind::array ? " takes null, not " : " takes an index or null, not ",
-                word);
-  }
-  argument->cursor = static_cast<uint32_t>(argument->number);
-  return true;
+  return fail(argument->name, " takes ", takes(argument->kind), ", not ", word);
 }
 
 bool read_value(Call* call, Argument* argument, char* line, uint32_t* cursor) {
   const char first = line[*cursor];
-  if (!first || first == ' ') return fail(argument->name, " has no value");
+  if (!first || first == ' ') return fail(argument->name, "= needs its value right after it");
   if (first != '"' && first != '\'') return read_word(call, argument, quvex::next_token(line, cursor, " "));
 
   const char* text = line + *cursor + 1;
-  if (first == '"' ? !argument->is_text() : argument->kind != Kind::number) {
-    return fail(argument->name, first == '"' ? " is no text" : " is no character");
+  if (!suits(*argument, first)) {
+    return fail(argument->name, " takes ", takes(argument->kind), first == '"' ? ", not text" : ", not a character");
   }
   if (first == '"') {
-    if (!read_text(argument, &text)) return false;
+    if (!read_text(*call, argument, &text)) return false;
   } else {
     argument->number = read_unit(&text);
-    if (argument->number < 0 || *text != '\'') return fail(argument->name, " takes one character in its quotes");
+    if (argument->number < 0 || *text != '\'') {
+      return fail(argument->name, " takes one character between its quotes, as in 'a' or '\\x07'");
+    }
   }
-  if (text[1] && text[1] != ' ') return fail("no blank after the quote of ", argument->name);
+  if (text[1] && text[1] != ' ') return fail("a blank or a comma must follow the quote of ", argument->name);
   *cursor = static_cast<uint32_t>(text + 1 - line);
   return true;
 }
@@ -187,7 +257,10 @@ bool read_arguments(Call* call, char* line, uint32_t cursor) {
     if (*end == '=') {
       *end = 0;
       argument = find_named(call, line + cursor);
-      if (!argument) return fail(call->operation->name, " has no argument ", line + cursor);
+      if (!argument) {
+        return fail(call->operation->name, " has no argument ", line + cursor, ": it takes ",
+                    call->operation->parameters);
+      }
       cursor = static_cast<uint32_t>(end + 1 - line);
     }
     if (!argument) return fail(call->operation->name, " takes no more than ", call->operation->parameters);
@@ -199,12 +272,41 @@ bool read_arguments(Call* call, char* line, uint32_t cursor) {
 
 }  // namespace
 
+const char* takes(Kind kind) {
+  switch (kind) {
+    case Kind::number:
+      return "a number such as 16, -1 or 0x10 that fits in 32 bits, or a character such as 'a'";
+    case Kind::cursor:
+      return "an index such as 0, or null";
+    case Kind::array:
+      return "null, or is left out";
+    default:
+      return "text such as \"abc\", null, or another text's name";
+  }
+}
+
+const Operation* find_operation(const char* name, bool* is_wide) {
+  // As a program in C or C++ has it.
+  if (quvex::compare_counted(name, "quvex_", 6) == 0) name += 6;
+  if (quvex::compare_counted(name, "quvex::", 7) == 0) name += 7;
+  for (const Operation* operation = operations; operation < operations_end; ++operation) {
+    *is_wide = quvex::compare(name, operation->wide.link_name) == 0;
+    const bool is_narrow = quvex::compare(name, operation->narrow.link_name) == 0;
+    if (*is_wide || is_narrow || quvex::compare(name, operation->name) == 0) return operation;
+  }
+  fail_unknown(name);
+  return nullptr;
+}
+
 bool read_call(char* line, Call* call) {
+  clear_punctuation(line);
   uint32_t cursor = 0;
   if (!read_operation(line, &cursor, call)) return false;
-  prepare(call);
+  prepare(call, line + cursor);
   if (!read_arguments(call, line, cursor)) return false;
-  if (const Argument* missing = find_missing(call, 0)) return fail(missing->name, " is missing");
+  if (const Argument* missing = find_missing(call, 0)) {
+    return fail(missing->name, " is missing: ", call->operation->name, " takes ", call->operation->parameters);
+  }
   const char* reason = call->operation->refuse(*call->form, call->arguments);
   return !reason || fail(reason);
 }
