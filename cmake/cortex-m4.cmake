@@ -1,9 +1,3 @@
 set(BOARD_CORE cortex-m4)
 set(BOARD_MACHINE mps2-an386)  # as QEMU names it
-set(BOARD_CODE 0x00000000)
-set(BOARD_CODE_SIZE 4M)
-set(BOARD_DATA 0x20000000)
-set(BOARD_DATA_SIZE 4M)
-set(BOARD_UART_KIND cmsdk)
-set(BOARD_UART 0x40004000)
-include(${CMAKE_CURRENT_LIST_DIR}/cortex-m.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/mps2.cmake)
