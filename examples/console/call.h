@@ -13,7 +13,9 @@ struct Argument {
 
   char* name;
   Kind kind;
-  bool is_optional, is_given, is_null;
+  bool is_provided;  // by the console, unless it is typed
+  bool has_place;    // in the line, for a value without a name
+  bool is_given, is_null;
   int32_t number;
   Argument* owner;  // of the units that it points to: itself, or another argument
   int32_t offset;   // in them

@@ -58,15 +58,14 @@ bool read_operation(char* line, uint32_t* cursor, Call* call) {
   return true;
 }
 
-// Whether an argument that may be left out must come by its name: fewer values than arguments stand in the line, or it
-// does come by its name.
-bool is_named_or_left_out(const Call& call, const Argument& argument, const char* line) {
-  const int32_t length = quvex::length(argument.name);
+// Whether a value without a name is for this argument, too: there is a value for each, and not by this one's name.
+bool has_place(const Call& call, const char* name, const char* line) {
+  const int32_t length = quvex::length(name);
   int32_t values = 0;
   while (true) {
     while (*line == ' ') ++line;
-    if (!*line) return values < call.form->count;
-    if (quvex::compare_counted(line, argument.name, length) == 0 && line[length] == '=') return true;
+    if (!*line) return values == call.form->count;
+    if (quvex::compare_counted(line, name, length) == 0 && line[length] == '=') return false;
     ++values;
     for (char quote = 0; *line && (quote || *line != ' ');) quote = step(&line, quote);
   }
@@ -81,9 +80,9 @@ void prepare(Call* call, const char* line) {
   for (int32_t i = 0; i < call->form->count; ++i) {
     Argument& argument = call->arguments[i];
     argument.name = name[i];
-    const bool is_bracketed = *name[i] == '[';
+    argument.is_provided = *name[i] == '[';
     quvex::trim(name[i], "[]");
-    argument.is_optional = is_bracketed && is_named_or_left_out(*call, argument, line);
+    argument.has_place = !argument.is_provided || has_place(*call, name[i], line);
     argument.kind = call->form->kinds[i];
     argument.is_given = argument.is_null = false;
     argument.owner = &argument;
@@ -115,7 +114,7 @@ bool suits(const Argument& argument, char first) {
 Argument* find_missing(Call* call, char first) {
   for (int32_t i = 0; i < call->form->count; ++i) {
     Argument& argument = call->arguments[i];
-    if (!argument.is_given && !argument.is_optional && suits(argument, first)) return &argument;
+    if (!argument.is_given && argument.has_place && suits(argument, first)) return &argument;
   }
   return nullptr;
 }
@@ -124,6 +123,10 @@ int32_t digit(char character) {
   const char* digits = "0123456789abcdef";
   const char* found = quvex::find_character(digits, quvex::character_to_lower(character));
   return found ? static_cast<int32_t>(found - digits) : -1;
+}
+
+bool refuse(const Argument& argument, const char* value, const char* hint = "") {
+  return fail(argument.name, " takes ", takes(argument.kind), ", not ", value, hint);
 }
 
 // One unit between quotes; -1 if there is none, or a malformed escape.
@@ -190,14 +193,13 @@ bool read_alias(Call* call, Argument* argument, char* word) {
   char* plus = quvex::find_character(word, '+');
   if (plus) *plus = 0;
   Argument* owner = find_named(call, word);
-  if (!owner)
-    return fail(argument->name, " takes ", takes(argument->kind), ", not ", word, "; text stands in quotes: \"", word,
-                "\"");
+  if (!owner) return refuse(*argument, word, "; text stands in quotes");
   if (!owner->is_text() || !owner->is_given || owner->is_null || owner->owner != owner) {
     return fail(word, " has no text of its own yet: give it one before, as in ", word, "=\"text\"");
   }
-  if (owner->is_wide() != argument->is_wide())
+  if (owner->is_wide() != argument->is_wide()) {
     return fail(word, " has the other width: give ", argument->name, " a text of its own");
+  }
   if (plus && !read_number(plus + 1, &argument->offset)) return fail("an offset is a number of units, not ", plus + 1);
   if (argument->offset < 0 || argument->offset > owner->length) {
     return fail("the offset leaves ", word, ", which has a length of ", owner->length);
@@ -209,19 +211,14 @@ bool read_alias(Call* call, Argument* argument, char* word) {
 bool read_word(Call* call, Argument* argument, char* word) {
   const bool is_index = argument->kind == Kind::cursor;
   if (argument->kind == Kind::number || (is_index && begins_number(*word))) {
-    if (!read_number(word, &argument->number) || (is_index && argument->number < 0)) {
-      return fail(argument->name, " takes ", takes(argument->kind), ", not ", word);
-    }
+    if (!read_number(word, &argument->number) || (is_index && argument->number < 0)) return refuse(*argument, word);
     if (is_index) argument->cursor = static_cast<uint32_t>(argument->number);
     return true;
   }
-  // Its own name stands for what the console provides.
-  const bool is_provided = argument->kind == Kind::array || is_index || argument->is_buffer();
-  if (is_provided && quvex::compare(word, argument->name) == 0) return true;
+  if (argument->is_provided && quvex::compare(word, argument->name) == 0) return true;
   argument->is_null = quvex::compare(word, "null") == 0;
   if (argument->is_null) return true;
-  if (argument->is_text()) return read_alias(call, argument, word);
-  return fail(argument->name, " takes ", takes(argument->kind), ", not ", word);
+  return argument->is_text() ? read_alias(call, argument, word) : refuse(*argument, word);
 }
 
 bool read_value(Call* call, Argument* argument, char* line, uint32_t* cursor) {
@@ -230,9 +227,7 @@ bool read_value(Call* call, Argument* argument, char* line, uint32_t* cursor) {
   if (first != '"' && first != '\'') return read_word(call, argument, quvex::next_token(line, cursor, " "));
 
   const char* text = line + *cursor + 1;
-  if (!suits(*argument, first)) {
-    return fail(argument->name, " takes ", takes(argument->kind), first == '"' ? ", not text" : ", not a character");
-  }
+  if (!suits(*argument, first)) return refuse(*argument, first == '"' ? "text" : "a character");
   if (first == '"') {
     if (!read_text(*call, argument, &text)) return false;
   } else {
