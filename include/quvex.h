@@ -64,12 +64,12 @@ QUVEX_NOTHROW void QUVEX_002034(quvex_wide* destination, const quvex_wide* sourc
     The first min(length, size - 1) characters are copied. A null source gives the empty string. Nothing is written if
     `destination` is null or is `source` itself, or if `size` is 0 or less. `destination` must hold `size` units or
     length + 1, whichever is fewer. `source` is read up to its terminator or index size - 1, whichever comes first, and
-    needs no terminator beyond. */
+    needs no terminator after that. */
 QUVEX_NOTHROW void QUVEX_002010(quvex_narrow* destination, int32_t size, const quvex_narrow* source);
 QUVEX_NOTHROW void QUVEX_002035(quvex_wide* destination, int32_t size, const quvex_wide* source);
 
-/** `copy_counted`: copy at most `count` units of `source`, up to and with its terminator.
-    With a length of `count` or more, exactly `count` characters are written and no terminator. The rest of the
+/** `copy_counted`: copy at most `count` units of `source`, up to and including its terminator.
+    If its length is `count` or more, exactly `count` characters are written, and no terminator. The rest of the
     destination is not filled.
     A null source, or a count of 0 or less, gives the empty string. Nothing is written if `destination` is null or is
     `source` itself. `destination` must hold min(length + 1, count) units, and at least 1. No source unit at index
@@ -123,11 +123,11 @@ QUVEX_NOTHROW void QUVEX_002052(quvex_wide* string);
 
 /* ---- Compare: the result tells the order and the place ----
 
-   0: equal. i + 1: first differing at index i, where `first` has the greater unit. -(i + 1): where it has the smaller.
-   The terminator compares as 0, so a prefix orders first. One null string orders before every other: 1 if `second` is
-   null, -1 if `first` is. The same pointer twice, null included, is 0 and nothing is read.
-   Both strings are read to the first difference, the common terminator or the bound. Strings that agree in 2147483647
-   or more units must not be passed. */
+   0: the strings are equal. i + 1: they first differ at index i, where `first` has the greater unit; -(i + 1): where it
+   has the smaller one. The terminator compares as 0, so a prefix orders first. Null orders before every string: 1 if
+   only `second` is null, -1 if only `first` is. The same pointer twice, null included, gives 0, and nothing is read.
+   Both strings are read to the first difference, the common terminator or the bound. They must not agree in 2147483647
+   or more units. */
 
 /** `compare`: the order of two strings and the place of their first difference. */
 QUVEX_NOTHROW int32_t QUVEX_002008(const quvex_narrow* first, const quvex_narrow* second);
@@ -160,8 +160,8 @@ QUVEX_NOTHROW quvex_wide* QUVEX_002032(const quvex_wide* string, int32_t charact
 
 /** `find`: the start of the leftmost occurrence of `needle` in `haystack`, or null.
     In an empty haystack nothing is found, not even an empty needle; in any other the empty needle is found at its
-    start. Null if either is null. A plain scan: the time grows with the product of the lengths at worst, and a partial
-    match that runs into the haystack's terminator ends it. */
+    start. Null if either is null. The scan is a plain one: at worst, its time grows with the product of the lengths. It
+    ends at a partial match that runs into the haystack's terminator. */
 QUVEX_NOTHROW quvex_narrow* QUVEX_002022(const quvex_narrow* haystack, const quvex_narrow* needle);
 QUVEX_NOTHROW quvex_wide* QUVEX_002049(const quvex_wide* haystack, const quvex_wide* needle);
 
@@ -175,8 +175,8 @@ QUVEX_NOTHROW quvex_wide* QUVEX_002038(const quvex_wide* haystack, const quvex_w
 /** `next_token`: cut off the next token.
     The result is the start of the first run of characters outside `set` at or after index `*cursor`, or null when none
     is left. A delimiter that ends the token is overwritten with zero, and the cursor moves just past it; a token that
-    ends the string leaves the cursor on the terminator, as does null. So adjoining delimiters count as one; a caller
-    who wants empty fields looks at `string[*cursor]` before each call.
+    ends the string leaves the cursor on the terminator, and so does a null result. Adjacent delimiters therefore count
+    as one; a caller who wants empty fields looks at `string[*cursor]` before each call.
     With an empty set the token is the rest of the string. Null, and nothing touched, if a pointer is null.
     `string` is read from the cursor to the end of the token, never before. The caller starts the cursor at 0, or
     elsewhere up to the terminator but not beyond it, and may pass another set on each call. */
@@ -192,18 +192,19 @@ QUVEX_NOTHROW int32_t QUVEX_002048(quvex_wide* string, const quvex_wide* set, qu
 
 /** `trim`: strip the characters of `set` from both ends, in place.
     What is kept moves to the start of `string`. The result is its length. A null or empty set strips nothing. `string`
-    must not be null, and must be writable even if nothing is stripped. The unit that followed what is kept, where it
-    stood, becomes zero as well; nothing beyond the old terminator is touched. */
+    must not be null, and must be writable even if nothing is stripped. The unit that followed these characters in their
+    old place becomes zero, too; nothing beyond the old terminator is touched. */
 QUVEX_NOTHROW int32_t QUVEX_002024(quvex_narrow* string, const quvex_narrow* set);
 QUVEX_NOTHROW int32_t QUVEX_002051(quvex_wide* string, const quvex_wide* set);
 
 /** `replace`: replace every occurrence of `pattern`, or tell the length of the result alone.
     Occurrences are found from left to right, never overlapping, and the result is written to `destination`. The result
-    is its length, S + n * (R - P) for n occurrences; what a replacement brings in is not searched.
+    is its length: S + n * (R - P) for n occurrences and the lengths S, P and R of source, pattern and replacement. Text
+    that was put in is not searched again.
     `destination` must hold that length + 1 units; null asks for the length alone, and nothing is written.
     0, and nothing written, if a string is null or `pattern` is empty.
     In place: `destination` may be `source` if `replacement` is shorter than `pattern`, and also if there is no
-    occurrence, when nothing is written. It must not overlap anything otherwise. */
+    occurrence, when nothing is written. Otherwise it must not overlap anything. */
 QUVEX_NOTHROW int32_t QUVEX_002020(const quvex_narrow* source, const quvex_narrow* pattern,
                                    const quvex_narrow* replacement, quvex_narrow* destination);
 QUVEX_NOTHROW int32_t QUVEX_002047(const quvex_wide* source, const quvex_wide* pattern, const quvex_wide* replacement,
@@ -215,15 +216,15 @@ QUVEX_NOTHROW int32_t QUVEX_002047(const quvex_wide* source, const quvex_wide* p
     `-` for a negative value, then the digits of its magnitude, `0` to `9` and `a` to `z`, terminated.
     Returns `destination`, null included. It must hold 34 units for any value in any radix, 12 in radix 10, 10 in radix
     16.
-    A radix of 0 or less gives the empty string. A radix above 36 goes on after `z`: digit d is the unit 87 + d, modulo
-    256 (narrow) or 65536 (wide), and so may be a zero that ends the text early. A radix of 1 is for the value 0 alone;
-    with another it gives the empty string. */
+    A radix of 0 or less gives the empty string. In a radix above 36 the digits go on after `z`: digit d is the unit
+    d + 87, modulo 256 (narrow) or 65536 (wide); one that comes out as zero ends the text early. In radix 1 only the
+    value 0 has a text; any other gives the empty string. */
 QUVEX_NOTHROW quvex_narrow* QUVEX_002003(int32_t value, quvex_narrow* destination, int32_t radix);
 QUVEX_NOTHROW quvex_wide* QUVEX_002004(int32_t value, quvex_wide* destination, int32_t radix);
 
 /** `to_integer`: decimal text as an integer.
-    Blanks and tabs, an optional `-`, then decimal digits, read up to the first unit that is none.
-    Modulo 2^32, without an overflow test. 0 for null and for text that does not hold a number there. No `+` is read. */
+    Blanks and tabs, an optional `-`, then decimal digits, read up to the first unit that is no digit.
+    Modulo 2^32, without an overflow test. No `+` is read. 0 for null and for text that holds no number there. */
 QUVEX_NOTHROW int32_t QUVEX_002000(const quvex_narrow* source);
 QUVEX_NOTHROW int32_t QUVEX_002053(const quvex_wide* source);
 
@@ -231,17 +232,17 @@ QUVEX_NOTHROW int32_t QUVEX_002053(const quvex_wide* source);
 
 /** `escape`: wide text as printable ASCII, every other unit as a visible escape.
     A unit from 32 to 126 stays one character; any other becomes `&(0x`, its 1 to 4 hexadecimal digits in lower case,
-    and `)`. Always terminated; stops before the first piece, character or escape, that does not fit whole, and reads no
-    further.
+    and `)`. The result is always terminated. It ends before the first character or escape that does not fit whole, and
+    nothing after that is read.
     Returns `destination`; if that is null, a constant empty string, the same on every call, which must not be written
-    to. A null source gives the empty string. A size of 1 or less gives it too: `destination` must hold 1 unit whatever
-    its size. */
+    to. A null source gives the empty string, and so does a size of 1 or less: `destination` must hold at least 1 unit,
+    whatever `size` says. */
 QUVEX_NOTHROW const quvex_narrow* QUVEX_002029(const quvex_wide* source, quvex_narrow* destination, int32_t size);
 
 /** `widen`: copy as much of narrow text as fits in `size` wide units, always terminated.
     The first min(length, size - 1) characters are copied, each as the wide unit of the same number. Returns
-    `destination`, null included. A null source gives the empty string. A size of 1 or less gives it too: `destination`
-    must hold 1 unit whatever its size. No source unit beyond index size - 1 is read. */
+    `destination`, null included. A null source gives the empty string, and so does a size of 1 or less: `destination`
+    must hold at least 1 unit, whatever `size` says. No source unit beyond index size - 1 is read. */
 QUVEX_NOTHROW quvex_wide* QUVEX_002001(const quvex_narrow* source, quvex_wide* destination, int32_t size);
 
 /** `widen_units`: copy exactly `count` narrow units, zeros among them, to wide ones.
