@@ -11,7 +11,7 @@ endif()
 target_compile_options(quvex PRIVATE
   -ffreestanding                    # a plain loop must not become a call of memcpy, memset or strlen
   -fno-lto                          # inlined into an application by LTO, the loops would lose -ffreestanding
-  -ffunction-sections               # one section an operation: an image keeps only those that it calls
+  -ffunction-sections               # a section for each operation: an image keeps only those that it calls
   -fdata-sections                   # likewise for the two constants
   -fno-exceptions                   # nothing throws
   -fno-unwind-tables                # 8 bytes of .ARM.exidx a function otherwise
@@ -20,25 +20,25 @@ target_compile_options(quvex PRIVATE
   -ffile-prefix-map=${PROJECT_SOURCE_DIR}=quvex  # the same bytes in whatever folder they are built
   -ffile-prefix-map=${CMAKE_BINARY_DIR}=build    # likewise
   -include ${CMAKE_CURRENT_LIST_DIR}/any_float_abi.h
-  $<$<CXX_COMPILER_ID:GNU>:-fno-ipa-icf>         # equal twins must not be merged: each is a section of its own
-  $<$<CXX_COMPILER_ID:Clang>:-mno-outline>       # likewise for what they share, at -Oz
+  $<$<CXX_COMPILER_ID:GNU>:-fno-ipa-icf>         # equal twins must not be merged: each needs its own section
+  $<$<CXX_COMPILER_ID:Clang>:-mno-outline>       # nor must what they share, at -Oz
   $<$<CXX_COMPILER_ID:Clang>:-fsjlj-exceptions>) # no .ARM.exidx, which clang emits even where nothing throws
 
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   target_compile_options(quvex PRIVATE
-    $<$<CONFIG:MinSizeRel,Release>:-fno-shrink-wrap>  # one way in and out is smaller than a second past the saved registers
-    # For size. Off is what makes copies of code, or of values in registers that must be saved for them.
-    $<$<CONFIG:MinSizeRel>:-fno-ivopts>               # a pointer for each use of an index
-    $<$<CONFIG:MinSizeRel>:-fno-cse-follow-jumps>     # a constant kept instead of made again
-    $<$<CONFIG:MinSizeRel>:-fno-thread-jumps>         # a test's code once for each way that leads to it
+    $<$<CONFIG:MinSizeRel,Release>:-fno-shrink-wrap>  # one way in and out is smaller than a second one that saves no registers
+    # For size: off are the passes that duplicate code, or keep values in registers that must then be saved.
+    $<$<CONFIG:MinSizeRel>:-fno-ivopts>               # keeps a pointer for each use of an index
+    $<$<CONFIG:MinSizeRel>:-fno-cse-follow-jumps>     # keeps a constant live instead of reloading it
+    $<$<CONFIG:MinSizeRel>:-fno-thread-jumps>         # copies a test for each path that leads to it
     $<$<CONFIG:MinSizeRel>:-fno-tree-dominator-opts>  # likewise
-    $<$<CONFIG:MinSizeRel>:-fno-tree-tail-merge>      # merged before it is known to be smaller; a later pass knows
-    $<$<CONFIG:MinSizeRel>:-fno-ssa-phiopt>           # two branches made one expression, in wider instructions
-    $<$<CONFIG:MinSizeRel>:-fno-schedule-insns2>      # an order that needs registers of 4-byte instructions
+    $<$<CONFIG:MinSizeRel>:-fno-tree-tail-merge>      # merges before it is known to be smaller; a later pass knows
+    $<$<CONFIG:MinSizeRel>:-fno-ssa-phiopt>           # turns two branches into an expression of wider instructions
+    $<$<CONFIG:MinSizeRel>:-fno-schedule-insns2>      # an order that needs registers which only 4-byte instructions reach
     $<$<CONFIG:MinSizeRel>:-freorder-blocks-algorithm=stc>  # the order of the source needs more jumps
     # For speed.
-    $<$<CONFIG:Release>:-fno-tree-pre>                # the next turn's values ahead of time: a copy in each turn
-    $<$<CONFIG:Release>:-fno-tree-loop-im>            # a constant in a register that is saved for it
+    $<$<CONFIG:Release>:-fno-tree-pre>                # computes the next iteration's values early: a copy in each iteration
+    $<$<CONFIG:Release>:-fno-tree-loop-im>            # keeps a constant in a register that must then be saved
     $<$<CONFIG:Release>:-fno-schedule-insns>)         # likewise
 endif()
 

@@ -27,7 +27,7 @@ int board_semihost(int operation, const void* parameters) {
 void board_protect(int area, const volatile void* address, uint32_t size, enum board_access access) {
   const uint32_t base = (uint32_t)address;
 #if __ARM_ARCH >= 8
-  /* This MPU cannot refuse every access, but two regions that overlap do: each area has two. */
+  /* No region of this MPU refuses every access, but two that overlap do: each area has two. */
   for (uint32_t twin = 0; twin < 2; ++twin) {
     *MPU_NUMBER = 2 * (uint32_t)area + twin;
     *MPU_BASE = base | 2 << 1 | 1; /* read only, execute never */
@@ -40,7 +40,7 @@ void board_protect(int area, const volatile void* address, uint32_t size, enum b
   /* Execute never; the size as its logarithm less one. */
   *MPU_LIMIT = 1u << 28 | read_only | (30u - (uint32_t)__builtin_clz(size)) << 1 | (access != BOARD_ACCESS_ALL);
 #endif
-  *MPU_CONTROL = 5; /* on, and all else as without it */
+  *MPU_CONTROL = 5; /* on; what lies in no area stays accessible */
   __asm__ volatile("dsb\n\tisb" ::: "memory");
 }
 #endif

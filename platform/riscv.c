@@ -2,7 +2,7 @@
 
 void board_reset(void);
 
-/* board_semihost. Two shifts that do nothing tell the call from a breakpoint; the three must not lie across two pages. */
+/* board_semihost. Two shifts that do nothing tell the call from a breakpoint; no page may end among the three. */
 __asm__(
     ".text\n\t.balign 16\n\t.global board_semihost\n"
     "board_semihost:\n\t"

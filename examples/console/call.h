@@ -7,7 +7,7 @@ enum class Kind { number, narrow_text, wide_text, narrow_buffer, wide_buffer, cu
 
 // An argument, and room for what it points to.
 struct Argument {
-  // No operation makes more than the capacity of texts that long, but for what its `refuse` names.
+  // With texts that long no operation exceeds the capacity, but for the calls that its `refuse` excludes.
   static constexpr int32_t longest_text = 64, capacity = 640, slot_count = 34;
   static constexpr int32_t marker = 0xa5, wide_marker = 0xa5a5;
 
@@ -18,7 +18,7 @@ struct Argument {
   bool is_given, is_null;
   int32_t number;
   Argument* owner;  // of the units that it points to: itself, or another argument
-  int32_t offset;   // in them
+  int32_t offset;   // into them
   int32_t length;   // of the text that was typed
   union {
     quvex_narrow narrow[2 * capacity];
@@ -65,8 +65,8 @@ extern const Operation* const operations_end;
 // What may be typed for an argument.
 const char* takes(Kind kind);
 
-// The operation of this name or link name; whether that is the link name of its wide form. Null, and a line that says
-// so, if there is none.
+// Find an operation by its name or a link name, and tell whether that is the link name of its wide form. Null, and a
+// line that says so, if there is none.
 const Operation* find_operation(const char* name, bool* is_wide);
 
 struct Call {

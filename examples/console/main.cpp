@@ -20,7 +20,7 @@ void rub_out(Line* line) {
   print("\b \b");
 }
 
-// What is no printable ASCII arrives as the escape that stands for it in a text, so that nothing else is ever echoed.
+// A byte that is not printable ASCII becomes the escape that stands for it in a text: no control character is echoed.
 void put(Line* line, int byte) {
   if (byte == '\t') byte = ' ';
   char shown[5];
@@ -39,8 +39,8 @@ void put(Line* line, int byte) {
   print(shown);
 }
 
-// What is typed is echoed, as consoles on a serial line do: a terminal is in raw mode meanwhile. So what comes from a
-// pipe shows after its prompt too.
+// Echoes what is typed, as consoles on a serial line do, since the terminal is in raw mode. Input from a pipe is echoed
+// after its prompt, too.
 void read_line(Line* line) {
   enum { interrupt = 3, backspace = 8, kill = 21, escape = 27, rubout = 127 };
   static int byte = 0;       // kept from line to line: a line feed after a return ends no second line

@@ -13,7 +13,7 @@ bool fail_unknown(const char* name) {
   const char* nearest = nullptr;
   int32_t most = 1;
   for (const Operation* operation = operations; operation < operations_end; ++operation) {
-    // The magnitude of the order is one more than what the two share from the start.
+    // The magnitude of the order is one more than the length of the common prefix.
     const int32_t order = quvex::compare_folded(name, operation->name);
     const int32_t shared = order == 0 ? INT32_MAX : (order < 0 ? -order : order) - 1;
     if (shared <= most) continue;
@@ -58,7 +58,8 @@ bool read_operation(char* line, uint32_t* cursor, Call* call) {
   return true;
 }
 
-// Whether a value without a name is for this argument, too: there is a value for each, and not by this one's name.
+// Whether an argument that may be left out takes a value without a name: if the line has a value for each argument, and
+// this one's is not given by name.
 bool has_place(const Call& call, const char* name, const char* line) {
   const int32_t length = quvex::length(name);
   int32_t values = 0;
@@ -246,7 +247,7 @@ bool read_arguments(Call* call, char* line, uint32_t cursor) {
     while (line[cursor] == ' ') ++cursor;
     if (!line[cursor]) return true;
     Argument* argument = find_missing(call, line[cursor]);
-    if (!argument) argument = find_missing(call, 0);  // which says what it takes instead
+    if (!argument) argument = find_missing(call, 0);  // to say what that takes instead
     char* end = line + cursor;
     while (*end && !quvex::find_character(" =\"'", *end)) ++end;
     if (*end == '=') {
