@@ -5,8 +5,8 @@
 
 constexpr int end_of_input = -1;
 
-// The next byte of the UART. The emulator does not pass on the end of its own input, so that a byte 4 (Ctrl-D) marks it.
-// A byte 16 (Ctrl-P) quotes the byte after it, which may be a 4 or a 16. scripts/feed writes input in this form.
+// The next byte of the UART. The emulator does not pass on the end of its own input: a byte 4 (Ctrl-D) marks it. A byte
+// 16 (Ctrl-P) quotes the byte after it, which may be a 4 or a 16. scripts/feed writes input in this form.
 inline int read_byte() {
   const int byte = board_read();
   if (byte == 4) return end_of_input;
