@@ -107,13 +107,13 @@ def traced_ranges(code, untraced):
     return ",".join(ranges)
 
 
-def trace(image, arguments, board, ranges, output):
+def trace(image, arguments, board, ranges, output, stdin=subprocess.DEVNULL):
     """The addresses of the executed instructions, streamed from the emulator; the image prints to `output`."""
     reader, writer = os.pipe()
     options = f"-singlestep -d exec,nochain -dfilter {ranges} -D /dev/fd/{writer}"
     command = [ROOT / "scripts" / "emulate", "-M", board, "-q", options, image, *arguments]
     try:
-        emulator = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=output, stderr=subprocess.STDOUT,
+        emulator = subprocess.Popen(command, stdin=stdin, stdout=output, stderr=subprocess.STDOUT,
                                     pass_fds=[writer])
     finally:
         os.close(writer)
