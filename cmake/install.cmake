@@ -3,7 +3,7 @@ include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 set(package ${CMAKE_INSTALL_LIBDIR}/cmake/quvex)
 install(TARGETS quvex EXPORT quvex ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-install(FILES include/quvex.h include/quvex.hpp include/quvex_names.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(DIRECTORY include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 # Nothing else has to be found first, so that the targets' own file is the package's.
 install(EXPORT quvex NAMESPACE quvex:: FILE quvex-config.cmake DESTINATION ${package})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/quvex-config-version.cmake COMPATIBILITY SameMajorVersion)

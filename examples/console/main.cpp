@@ -23,11 +23,12 @@ void rub_out(Line* line) {
 // A byte that is not printable ASCII becomes the escape that stands for it in a text: no control character is echoed.
 void put(Line* line, int byte) {
   if (byte == '\t') byte = ' ';
-  char shown[5];
+  char shown[11];
   shown[0] = static_cast<char>(byte);
   shown[1] = 0;
   if (byte < ' ' || byte > '~') {
-    quvex::to_text(0x100 + byte, shown + 1, 16);  // The 1 in front keeps a leading zero, and makes room for the x.
+    // The 1 in front keeps a leading zero, and makes room for the x.
+    quvex::to_text_bounded(0x100 + byte, shown + 1, sizeof shown - 1, 16);
     shown[0] = '\\';
     shown[1] = 'x';
   }

@@ -97,7 +97,7 @@ const char* check(char* line) {
   if (!star) return "no checksum";
   int32_t sum = 0;
   for (const char* unit = line + 1; unit < star; ++unit) sum ^= static_cast<uint8_t>(*unit);
-  char digits[4];
+  char digits[10];
   quvex::to_text(0x100 + sum, digits, 16);  // The 1 in front keeps a leading zero.
   if (quvex::compare_folded(star + 1, digits + 1) != 0) return "bad checksum";
   *star = 0;

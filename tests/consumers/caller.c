@@ -1,13 +1,16 @@
-/* A user's program, in C and C++: every name once, with a result that tells whether it reached its operation. */
+/* A user's program, in C and C++: every name once, with a result that tells whether it reached its operation, and what
+   an array bounds. */
 #include <stdint.h>
 
 #ifdef __cplusplus
 #include "quvex.hpp"
 #define CALL(name) quvex::name
+#define NOTHING nullptr
 typedef char16_t wide_character;
 #else
 #include "quvex_names.h"
 #define CALL(name) quvex_##name
+#define NOTHING ((void*)0)
 typedef uint16_t wide_character;
 #endif
 
@@ -17,9 +20,10 @@ typedef uint16_t wide_character;
 
 int main(void) {
   const char byte[] = "\xe9";
-  char text[40], *words[4];
+  char text[40], few[8], *words[20], *two[2];
   wide_character wide[40];
   uint32_t cursor = 0;
+  volatile int32_t unknown = 35; /* a radix that only the run knows */
   CALL(copy)(text, "One,two");
   CALL(append)(text, ",three");
   EXPECT(CALL(compare)(text, "One,two,three") == 0);
@@ -48,5 +52,25 @@ int main(void) {
   CALL(widen_units)("\x80", wide, 1);
   EXPECT(CALL(find_character)(wide, 0x80) == wide);
   EXPECT(CALL(find_character)(byte, byte[0]) == byte && CALL(character_to_lower)(byte[0]) == 0xe9);
+
+  /* Bounded by the array, by a size, by nothing. */
+  CALL(copy)(text, "1234567890");
+  CALL(copy)(few, text);
+  CALL(append)(few, text);
+  EXPECT(CALL(length)(few) == 7);
+  CALL(copy)(text, "a b c");
+  EXPECT(CALL(split)(text, " ", two) == -2 && CALL(compare)(two[1], "b") == 0 && text[4] == 'c');
+  EXPECT(CALL(split_bounded)(text, " ", words, 1) == 1 && CALL(split_unbounded)(text, " ", words) == 1);
+  EXPECT(CALL(replace)("a-b", "-", "1234567", few) == 9 && few[0] == 0);
+  EXPECT(CALL(replace_bounded)("a-b", "-", "+", few, 4) == 3 && CALL(replace)("a", "a", "bc", NOTHING) == 2);
+  EXPECT(CALL(replace_unbounded)("a-b", "-", "", few) == 2 && CALL(compare)(few, "ab") == 0);
+  EXPECT(*CALL(to_text)(5, few, 36) == '5' && *CALL(to_text)(5, few, unknown) == 0);
+  EXPECT(*CALL(to_text_bounded)(5, few, 8, 36) == '5' && *CALL(to_text_unbounded)(5, few, 2) == '1');
+  CALL(copy_unbounded)(few, "ab");
+  CALL(append_unbounded)(few, "cd");
+  EXPECT(CALL(compare)(few, "abcd") == 0);
+  CALL(copy)(wide, u"a");
+  CALL(append_counted_unbounded)(wide, u"bc", 1);
+  EXPECT(CALL(compare)(wide, u"ab") == 0 && *CALL(escape)(wide, few) == 'a' && *CALL(widen)("b", wide) == 'b');
   return 0;
 }
