@@ -3,12 +3,12 @@
 #include <stdint.h>
 
 #ifdef __cplusplus
-#include "quvex.hpp"
+#include "quvex_line.h"
 #define CALL(name) quvex::name
 #define NOTHING nullptr
 typedef char16_t wide_character;
 #else
-#include "quvex_names.h"
+#include "quvex_line.h"
 #define CALL(name) quvex_##name
 #define NOTHING ((void*)0)
 typedef uint16_t wide_character;
@@ -17,6 +17,24 @@ typedef uint16_t wide_character;
 /* The exit status is the line that failed. */
 #define EXPECT(condition) \
   if (!(condition)) return __LINE__
+
+/* The status of a text that is built in each language's own way. */
+static int said(const char* expected) {
+#ifdef __cplusplus
+  quvex::text<8> text;
+  text.add(expected).add_character('=').add_integer(-1);
+  return text.is_cut() || quvex::compare(text, "ab=-1") != 0 || !text.add_integer(10000).is_cut();
+#else
+  char units[8];
+  quvex_text text = quvex_text_in(units);
+  quvex_add(&text, expected);
+  quvex_add_character(&text, '=');
+  quvex_add_integer(&text, -1, 10);
+  if (text.is_cut || quvex_compare(units, "ab=-1") != 0) return __LINE__;
+  quvex_add_integer(&text, 10000, 10);
+  return !text.is_cut;
+#endif
+}
 
 int main(void) {
   const char byte[] = "\xe9";
@@ -72,5 +90,13 @@ int main(void) {
   CALL(copy)(wide, u"a");
   CALL(append_counted_unbounded)(wide, u"bc", 1);
   EXPECT(CALL(compare)(wide, u"ab") == 0 && *CALL(escape)(wide, few) == 'a' && *CALL(widen)("b", wide) == 'b');
-  return 0;
+
+  /* Lines. */
+  EXPECT(CALL(read_integer)("-12;", -20, 20).length == 3 && CALL(read_integer)(u"21", -20, 20).length == 0);
+  EXPECT(CALL(read_hexadecimal)("0xfF", 255).value == 255);
+  CALL(copy)(text, "\"a,b\",");
+  cursor = 0;
+  EXPECT(CALL(compare)(CALL(next_field)(text, &cursor, ","), "a,b") == 0);
+  EXPECT(*CALL(next_field)(text, &cursor, ",") == 0 && !CALL(next_field)(text, &cursor, ","));
+  return said(few);
 }
