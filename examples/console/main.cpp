@@ -107,7 +107,7 @@ void print_unit(int32_t unit, bool is_wide) {
   const char quoted[] = {'\'', static_cast<char>(unit), '\'', 0};
   if (unit >= ' ' && unit <= '~') return print(quoted);
   if (!unit) return print("0");
-  char digits[8];
+  char digits[10];
   quvex::to_text((is_wide ? 0x10000 : 0x100) + unit, digits, 16);  // The 1 in front keeps leading zeros.
   print(is_wide ? "\\u" : "\\x", digits + 1);
 }

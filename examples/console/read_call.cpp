@@ -1,5 +1,6 @@
 #include "../print.h"
 #include "call.h"
+#include "quvex_line.h"
 
 namespace {
 
@@ -173,20 +174,11 @@ bool read_text(const Call& call, Argument* argument, const char** text) {
 }
 
 bool read_number(const char* word, int32_t* number) {
-  if (quvex::compare_folded_counted(word, "0x", 2) != 0) {
-    *number = quvex::to_integer(word);
-    char text[12];
-    // It reads back as it was typed unless something was lost on the way.
-    return quvex::compare(quvex::to_text(*number, text, 10), word) == 0;
-  }
-  const int32_t length = quvex::length(word);
-  uint32_t bits = 0;
-  for (int32_t i = 2; i < length; ++i) {
-    if (digit(word[i]) < 0) return false;
-    bits = bits * 16 + static_cast<uint32_t>(digit(word[i]));
-  }
-  *number = static_cast<int32_t>(bits);
-  return length > 2 && length <= 10;
+  const quvex::integer decimal = quvex::read_integer(word);
+  const quvex::hexadecimal bits = quvex::read_hexadecimal(word);
+  const bool is_decimal = decimal.length && !word[decimal.length];
+  *number = is_decimal ? decimal.value : static_cast<int32_t>(bits.value);
+  return is_decimal || (quvex::find_character(word, 'x') && bits.length && !word[bits.length]);
 }
 
 // The name of another argument, plus an offset or not.

@@ -1,6 +1,6 @@
 #include "nmea.h"
 
-#include "quvex.hpp"
+#include "quvex_line.h"
 
 namespace {
 
@@ -53,7 +53,7 @@ bool is_time(const char* field) {
   return time >= 0 && time / 10000 < 24 && time / 100 % 100 < 60 && time % 100 <= 60;  // 60: a leap second
 }
 
-// Degrees and minutes, and the hemisphere in the field behind: ddmm.mmmm,N or dddmm.mmmm,E.
+// Degrees and minutes, and the hemisphere in the next field: ddmm.mmmm,N or dddmm.mmmm,E.
 bool read_angle(char** field, int32_t degree_digits, const char* hemispheres, int32_t* angle) {
   *angle = absent;
   if (!*field[0] && !*field[1]) return true;
@@ -61,14 +61,14 @@ bool read_angle(char** field, int32_t degree_digits, const char* hemispheres, in
   const int32_t sign = choice(field[1], hemispheres);
   const int32_t minutes = number % 1000000;  // in 1e-4 minutes
   if (number < 0 || sign < 0 || minutes >= 600000) return false;
-  // 1e-5 degrees are 6 of these, half of it 3: no decimal behind the fourth can change the rounding.
+  // 1e-5 degrees are 6 of these, half of it 3: no decimal after the fourth can change the rounding.
   const int32_t magnitude = number / 1000000 * 100000 + (minutes + 3) / 6;
   if (magnitude > (degree_digits == 2 ? 9000000 : 18000000)) return false;
   *angle = sign ? -magnitude : magnitude;
   return true;
 }
 
-// Metres, and their unit in the field behind.
+// Metres, and their unit in the next field.
 bool read_altitude(char** field, int32_t* altitude) {
   *altitude = absent;
   if (!*field[0]) return true;
@@ -83,9 +83,9 @@ bool read_altitude(char** field, int32_t* altitude) {
 bool read_satellites(const char* field, int32_t* satellites) {
   *satellites = absent;
   if (!*field) return true;
-  if (quvex::length(field) > 2 || !all_digits(field)) return false;
-  *satellites = quvex::to_integer(field);
-  return true;
+  const quvex::integer number = quvex::read_integer(field, 0, 99);
+  *satellites = number.value;
+  return number.length && !field[number.length];
 }
 
 }  // namespace
@@ -107,17 +107,7 @@ const char* check(char* line) {
 int32_t cut_fields(char* sentence, char** fields, int32_t most) {
   int32_t count = 0;
   uint32_t cursor = 0;
-  while (count < most) {
-    fields[count++] = sentence + cursor;
-    if (!sentence[cursor]) break;  // The last field is empty.
-    if (sentence[cursor] == ',') {
-      // An empty field. The next token would begin behind this comma and all that adjoin it, so it is ended here.
-      sentence[cursor++] = 0;
-      continue;
-    }
-    quvex::next_token(sentence, &cursor, ",");
-    if (sentence[cursor - 1]) break;  // No comma became a terminator: the token ended with the sentence.
-  }
+  while (count < most && (fields[count] = quvex::next_field(sentence, &cursor, ","))) ++count;
   return count;
 }
 

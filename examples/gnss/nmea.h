@@ -18,8 +18,7 @@ struct Position {
 // Check a line as a sentence and cut off its checksum. Null if the checksum holds, else what is wrong.
 const char* check(char* line);
 
-// Cut a sentence at its commas, in place, into `most` fields or fewer, the empty ones among them. The result is their
-// number.
+// Cut a sentence at its commas, in place, into `most` fields or fewer; empty ones count, too. The result is their number.
 int32_t cut_fields(char* sentence, char** fields, int32_t most);
 
 // Read the position out of the fields of a sentence. Null if it has one, else why not.
