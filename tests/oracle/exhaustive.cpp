@@ -1,35 +1,14 @@
-// Every string up to a bound over an alphabet of its interesting units, with every number around it.
+// Short strings: all of them up to a bound, and those that show what longer ones, other units and overlaps may do.
 #include <cstdlib>
 
-#include "expectation.h"
+#include "families.h"
 
-using namespace oracle;
-using namespace std::string_view_literals;
-
+namespace oracle {
 namespace {
 
-constexpr int unused = -99;
-enum Number { none, bound, any, radix };
-
-// Each alphabet is written for wide strings; in a narrow one, what does not fit becomes its low byte with the high bit
-// set. The lengths are those of the longest strings, less than the bound by so many.
-struct Family {
-  Op op;
-  Text alphabet;
-  int longest[3];
-  Number n, m;
-};
-
-constexpr Text plain = u"a\u0141b"sv, cased = u"aA\u0141"sv, sorted = u"aA[{\u8061"sv, letters = u"@AZ[`az{\u0141"sv;
-constexpr Text list = u"a,;\u812C"sv, zeros = u"a\0\u80FF"sv;
-
-const Family families[] = {
-#include "families.def"
-};
-
-// The next string of its length in the alphabet's order, from `start` on; false, and the first again, after the last.
-bool advance(std::u16string& string, Text alphabet, size_t start) {
-  for (size_t i = string.size(); i-- > start;) {
+// The next string of its length in the alphabet's order, from `prefix` on; false, and the first again, after the last.
+bool advance(std::u16string& string, Text alphabet, size_t prefix) {
+  for (size_t i = string.size(); i-- > prefix;) {
     const size_t next = alphabet.find(string[i]) + 1;
     string[i] = alphabet[next % alphabet.size()];
     if (next < alphabet.size()) return true;
@@ -37,27 +16,29 @@ bool advance(std::u16string& string, Text alphabet, size_t start) {
   return false;
 }
 
-// Null, then every string that continues a start of the alphabet's first unit, up to a length.
+// Null, then every string that continues a prefix of the alphabet's first unit, up to a length.
 template <class Visit>
-void each_string(Text alphabet, int start, int longest, Visit visit) {
+void each_string(Text alphabet, int prefix, int longest, Visit visit) {
   visit(Text());
-  for (int length = start; length <= longest; ++length) {
+  for (int length = prefix; length <= longest; ++length) {
     std::u16string string(size_t(length), alphabet[0]);
     do visit(string);
-    while (advance(string, alphabet, size_t(start)));
+    while (advance(string, alphabet, size_t(prefix)));
   }
 }
 
 template <class Visit>
-void each_number(Number kind, const Case& c, Visit visit) {
+void each_number(Numbers kind, const Call& c, Visit visit) {
   if (kind == none) return visit(0);
   for (const int32_t extreme : {INT32_MIN, INT32_MIN + 1, INT32_MAX - 1, INT32_MAX}) visit(extreme);
   const auto range = [&](int from, int to) {
     for (int i = from; i <= to; ++i) visit(i);
   };
-  const int size = int(c.text[first].size()), other = c.op < Op::compare ? int(c.text[second].size()) : 0;
-  if (kind == bound && c.op >= Op::widen_units) return range(-1, room / 2);
-  if (kind == bound) return range(-1, (c.op == Op::escape ? 9 : 1) * size + other + 2);
+  const int a = int(c.text[first].size()), b = int(c.text[second].size());
+  if (kind == size) return range(-1, a + b + 2);
+  if (kind == count) return range(-1, a + 2);
+  if (kind == units) return range(-1, room);
+  if (kind == pieces) return range(-1, 9 * a + 2);
   if (kind == radix) return range(-1, 40), range(168, 171), range(255, 257), visit(65537);
   range(-360, 360);
   range(65590, 65670);  // The letters' low bytes.
@@ -69,41 +50,20 @@ void each_number(Number kind, const Case& c, Visit visit) {
   }
 }
 
-long cases = 0, wrong = 0;
-
-void tally(Case c) {
-  for (const int place : {0, 1, 2}) {
-    c.provided = place != 0;
-    c.in_place = place == 2;
-    const uint32_t places = uint32_t(cases) * 2654435761u >> 28;  // Each in its turn, without a pattern.
-    c.skew[0] = int(places % 4);
-    c.skew[1] = int(places / 4);
-    const int reach = c.op == Op::copy_units && c.in_place ? 4 : 0;
-    for (c.shift = -reach; c.shift <= reach; ++c.shift) {
-      if (!is_valid(c)) continue;
-      ++cases;
-      if (wrong < 20) wrong += check(c);
-    }
-  }
-}
-
-void run(const Family& family, bool wide, int start, int longest) {
-  char16_t units[16];
-  const auto fit = [=](char16_t unit) { return wide || unit < 256 ? unit : char16_t((unit & 0xFF) | 0x80); };
-  const Text alphabet(units,
-                      size_t(std::transform(family.alphabet.begin(), family.alphabet.end(), units, fit) - units));
-  const auto up_to = [&](int slot) {
-    return family.longest[slot] == unused ? -1 : start + std::max(1, longest + family.longest[slot]);
+void each_call_of_strings(const Family& family, bool wide, int prefix, int longest) {
+  const std::u16string alphabet = alphabet_of(family, wide);
+  const auto limit = [&](int slot) {
+    return family.longest[slot] == unused ? -1 : prefix + std::max(1, longest + family.longest[slot]);
   };
-  each_string(alphabet, start, up_to(first), [&](Text a) {
-    each_string(alphabet, start, up_to(second), [&](Text b) {
-      each_string(alphabet, start, up_to(third), [&](Text r) {
-        Case c{family.op, wide, {a, b, r}, true, false, 0, {0, 0}, 0, 0};
+  each_string(alphabet, prefix, limit(first), [&](Text a) {
+    each_string(alphabet, prefix, limit(second), [&](Text b) {
+      each_string(alphabet, prefix, limit(third), [&](Text r) {
+        Call c{family.op, wide, {a, b, r}, {}, {}, 0, 0, 0};
         each_number(family.n, c, [&](int32_t n) {
           c.n = n;
           each_number(family.m, c, [&](int32_t m) {
             c.m = m;
-            tally(c);
+            attempt_anywhere(c);
           });
         });
       });
@@ -111,18 +71,119 @@ void run(const Family& family, bool wide, int start, int longest) {
   });
 }
 
+// The numbers around the lengths.
+template <class Visit>
+void each_number_around(Numbers kind, const Call& c, Text alphabet, Visit visit) {
+  if (kind == none) return visit(0);
+  if (kind == any) return visit(alphabet.front()), visit(alphabet.back());
+  const auto a = int32_t(c.text[first].size()), b = int32_t(c.text[second].size());
+  const int32_t around = kind == size ? a + b : kind == pieces ? 9 * a : a;
+  for (int32_t number = -1; number <= 1; ++number) visit(number);
+  for (int32_t number = around - 1; number <= around + 2; ++number) visit(number);
+  visit(INT32_MAX);
+}
+
+// Longer strings of every length, sizes and counts around it.
+void each_call_of_runs(const Family& family, bool wide, bool all) {
+  const std::u16string alphabet = alphabet_of(family, wide);
+  const int some[] = {0, 1, 2, 7, 9, 14, 23, 40};
+  const auto each = [&](int slot, int step, int longest, auto visit) {
+    if (family.longest[slot] == unused) return visit(Text());
+    for (int i = 0; i <= longest; i += step) {
+      if (all || std::count(std::begin(some), std::end(some), i)) each_run(alphabet, i, visit);
+    }
+  };
+  each(first, 1, 40, [&](Text a) {
+    each(second, 1, 40, [&](Text b) {
+      each(third, 1, 9, [&](Text r) {
+        Call c{family.op, wide, {a, b, r}, {}, {}, 0, 0, 0};
+        each_number_around(family.n, c, alphabet, [&](int32_t n) {
+          c.n = n;
+          each_number_around(family.m, c, alphabet, [&](int32_t m) {
+            c.m = m;
+            attempt_anywhere(c);
+          });
+        });
+      });
+    });
+  });
+}
+
+// A unit alone, and a string of one that differs from it in one bit: `every` unit, or those that are narrow and some.
+void each_call_of_pairs(const Family& family, bool wide, bool every) {
+  const bool narrow = unit_size({family.op, wide, {}, {}, {}, 0, 0, 0}, first) == 1;
+  const int bits = family.n == any && family.longest[first] == unused ? 32 : 17;
+  for (int32_t value = 1; value < (narrow ? 0x100 : 0x10000); value += every || value < 0x100 ? 1 : 509) {
+    for (int bit = family.n == any || family.longest[second] != unused ? 0 : 16; bit < bits; ++bit) {
+      const auto changed = int32_t(uint32_t(value) ^ (bit == 16 ? 0 : uint32_t{1} << bit));
+      const char16_t a[] = {char16_t(value), u'!'}, b = char16_t(changed);
+      if (narrow && changed > 0xFF && family.n != any) continue;
+      Call c{family.op, wide, {}, Placing::apart, {}, 0, changed, 10};
+      if (family.longest[first] != unused) c.text[first] = Text(a, 2);
+      if (family.longest[second] != unused) c.text[second] = Text(&b, b != 0);
+      if (family.longest[third] != unused) c.text[third] = u"+"sv;
+      if (family.n != any) c.n = family.op == Op::next_token ? 0 : family.n == pieces ? 11 : 2;
+      cases += is_allowed(c);
+      if (is_allowed(c) && wrong < 20) wrong += !holds(c);
+    }
+  }
+}
+
+// Sets and needles of many units that all differ: each of their units is looked for, and partial matches of each length.
+void each_call_of_sequences(Op op, bool wide, char16_t start) {
+  std::u16string ascending(30, start);
+  std::iota(ascending.begin(), ascending.end(), start);
+  for (size_t length = 1; length <= ascending.size(); ++length) {
+    const Text sequence = Text(ascending).substr(0, length);
+    for (size_t i = 0; i < length; ++i) {
+      const std::u16string member(1, sequence[i]), other(1, char16_t(sequence[i] ^ 0x80));
+      const std::u16string changed(1, char16_t(sequence[i] ^ 0x20));
+      const std::u16string partly(sequence.substr(0, i)), whole = partly + std::u16string(sequence);
+      const std::u16string in_case = partly + changed + std::u16string(sequence.substr(i + 1));
+      for (const std::u16string& text :
+           {other + member + other, member + other + member, whole, in_case, partly + other}) {
+        attempt_anywhere({op, wide, {text, sequence, u"+"sv}, {}, {}, 0, 0, 0});
+      }
+    }
+  }
+}
+
+// The wide unit copy over every distance of overlap.
+void each_overlap() {
+  std::u16string text(room / 2, u'a');
+  std::iota(text.begin(), text.end(), u'\x80FE');
+  text[3] = 0;
+  for (int shift = -room / 2; shift <= room / 2; ++shift) {
+    for (int n = 0; n <= room / 2; ++n) {
+      for (const int odd : {0, 1}) {
+        attempt({Op::copy_units, true, {text}, {}, {std::max(0, -shift) + odd}, shift, n, 0});
+      }
+    }
+  }
+}
+
+void run(int longest) {
+  for (const Family& family : families) {
+    for (const bool wide : {false, true}) {
+      each_call_of_strings(family, wide, 0, longest);
+      // Behind a prefix of seven, so that unrolled loops complete a full iteration.
+      if (family.longest[first] != unused) each_call_of_strings(family, wide, 7, longest - 2);
+      if (family.longest[first] != unused) each_call_of_runs(family, wide, longest > 5);
+      each_call_of_pairs(family, wide, longest > 5);
+    }
+  }
+  for (const Op op : {Op::find, Op::find_folded, Op::next_token, Op::split, Op::trim, Op::replace}) {
+    for (const char16_t start : {u'a', u'A', u'\x90', u'\xC0'}) each_call_of_sequences(op, false, start);
+    for (const char16_t start : {u'a', u'A', u'\xF8', u'\x8141'}) each_call_of_sequences(op, true, start);
+  }
+  each_overlap();
+}
+
 }  // namespace
+}  // namespace oracle
 
 int main(int argc, char** argv) {
   const int longest = argc > 1 ? std::atoi(argv[1]) : 3;
-  for (const Family& family : families) {
-    for (const bool wide : {false, true}) {
-      run(family, wide, 0, longest);
-      // Behind a start that takes an unrolled loop round once.
-      if (family.longest[first] != unused) run(family, wide, 7, longest - 2);
-    }
-  }
-  std::printf("%ld cases up to %d units, digest %08lx, %ld wrong\n", cases, longest,
-              static_cast<unsigned long>(digest >> 32), wrong);
-  return wrong || !cases;
+  oracle::run(longest);
+  return oracle::report("cases", longest);
 }

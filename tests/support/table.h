@@ -14,7 +14,7 @@ constexpr int32_t least = INT32_MIN, greatest = INT32_MAX;
 // The operations by name and width; of those that stand alone, both are the same.
 template <class Unit>
 struct Op {
-#define OPERATION(name, narrow, wide, arguments, provides, places) \
+#define OPERATION(name, narrow, wide, ...) \
   static constexpr auto name = std::get<sizeof(Unit) - 1>(std::tuple(&QUVEX_##narrow, &QUVEX_##wide));
 #include "../oracle/operations.def"
 #undef OPERATION
