@@ -1,6 +1,6 @@
 #include "nmea.h"
 
-#include "quvex_line.h"
+#include "quvex.hpp"
 
 namespace {
 
@@ -83,9 +83,9 @@ bool read_altitude(char** field, int32_t* altitude) {
 bool read_satellites(const char* field, int32_t* satellites) {
   *satellites = absent;
   if (!*field) return true;
-  const quvex::integer number = quvex::read_integer(field, 0, 99);
-  *satellites = number.value;
-  return number.length && !field[number.length];
+  if (quvex::length(field) > 2 || !all_digits(field)) return false;
+  *satellites = quvex::to_integer(field);
+  return true;
 }
 
 }  // namespace
@@ -104,10 +104,21 @@ const char* check(char* line) {
   return nullptr;
 }
 
+// Not next_field: to NMEA a quote is a character like any other.
 int32_t cut_fields(char* sentence, char** fields, int32_t most) {
   int32_t count = 0;
   uint32_t cursor = 0;
-  while (count < most && (fields[count] = quvex::next_field(sentence, &cursor, ","))) ++count;
+  while (count < most) {
+    fields[count++] = sentence + cursor;
+    if (!sentence[cursor]) break;  // The last field is empty.
+    if (sentence[cursor] == ',') {
+      // An empty field. The next token would begin after this comma and those next to it, so it is ended here.
+      sentence[cursor++] = 0;
+      continue;
+    }
+    quvex::next_token(sentence, &cursor, ",");
+    if (sentence[cursor - 1]) break;  // No comma became a terminator: the token ended with the sentence.
+  }
   return count;
 }
 
