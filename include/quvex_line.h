@@ -3,16 +3,18 @@
     Composed of operations and inline; to be included beside quvex_names.h or quvex.hpp, whose rules hold here.
 
     - `read_integer(text, least, most)`: a decimal number with an optional `-`, from the first unit on: no blank, no
-      `+`. The result has the `value` and, as `length`, how many units it takes: where the number ends. A length of 0 says
-      that there is none, or none from `least` to `most`. In C++ the two may be left out.
+      `+`. The result has the `value` and, as `length`, how many units it takes: where the number ends. A length of 0
+      says that there is none, or none from `least` to `most`. In C++ the two may be left out.
     - `read_hexadecimal(text, most)`: likewise, of hexadecimal digits after an optional `0x`, up to 32 bits, unsigned.
     - `next_field(line, cursor, set)`: the next field of a writable line, terminated in place, or null when there are no
       more. Any character of `set` ends a field, so that two in a row leave an empty one between them, and one at the
-      end an empty one behind it. Between quotes it ends none. Quotes are taken out; two in a row between quotes stand for
-      one. The caller starts the cursor at 0 and leaves it alone. In C++ also `for (char* field : fields(line, set))`.
-    - `text<Size>` in C++, `quvex_text` in C, begun with `quvex_text_in(array)`: what is added to it stays within its
-      size, ends with a terminator, and `is_cut` knows whether something did not fit. From then on nothing more is
-      added. Text is cut between characters of UTF-8 and between surrogate pairs; an integer is added whole or not at all. */
+      end an empty one behind it. Between quotes it ends none. Quotes are taken out; two in a row between quotes stand
+      for one. The caller starts the cursor at 0 and leaves it alone. In C++ also
+      `for (char* field : fields(line, set))`.
+    - `text<Size>` in C++, `quvex_text` in C, begun with `quvex_text_in(array)` or `quvex_text_at(pointer, size)`:
+      what is added to it stays within its size and ends with a terminator, and `is_cut` knows whether something did not
+      fit. From then on nothing more is added. Text is cut between characters of UTF-8 and between surrogate pairs; an
+      integer is added whole or not at all. */
 #ifndef QUVEX_LINE_H
 #define QUVEX_LINE_H
 
@@ -153,10 +155,13 @@ class text {
   (QUVEX_CHECK(QUVEX_WRITES(line) QUVEX_READS(set) QUVEX_ALIKE(QUVEX_KIND(line) | QUVEX_KIND(set))),              \
    QUVEX_AS(line, QUVEX_TWIN(QUVEX_KIND(line) | QUVEX_KIND(set), quvex_next_field_narrow, quvex_next_field_wide)( \
                       (void*)(line), cursor, (const void*)(set))))
-#define quvex_text_in(array)                                                                             \
-  (QUVEX_CHECK(QUVEX_WRITES(array)                                                                       \
-                   QUVEX_HAS_ROOM(array, "quvex_text_at_narrow(pointer, size), or quvex_text_at_wide")), \
+#define quvex_text_in(array)                                                               \
+  (QUVEX_CHECK(QUVEX_WRITES(array) QUVEX_HAS_ROOM(array, "quvex_text_at(pointer, size)")), \
    QUVEX_TWIN(QUVEX_KIND(array), quvex_text_at_narrow, quvex_text_at_wide)((void*)(array), QUVEX_ROOM(array)))
+#define quvex_text_at(pointer, size)                                                           \
+  (QUVEX_CHECK(QUVEX_WRITES(pointer) QUVEX_WITHIN(size, pointer)),                             \
+   QUVEX_TWIN(QUVEX_KIND(pointer), quvex_text_at_narrow, quvex_text_at_wide)((void*)(pointer), \
+                                                                             quvex_lesser(size, QUVEX_ROOM(pointer))))
 #define quvex_add(text, source)                                                              \
   (QUVEX_CHECK(QUVEX_READS(source) QUVEX_ALIKE(QUVEX_TEXT_KIND(text) | QUVEX_KIND(source))), \
    QUVEX_TWIN(QUVEX_TEXT_KIND(text), quvex_add_narrow, quvex_add_wide)(text, (const void*)(source)))

@@ -56,6 +56,8 @@
 #define QUVEX_IS_ARRAY(text) (!__builtin_types_compatible_p(__typeof__(text), QUVEX_DECAYED(text)))
 #define QUVEX_SIZE(text) ((int32_t)(sizeof(text) / (QUVEX_KIND(text) & 2 ? 2 : 1)))
 #define QUVEX_ROOM(text) (QUVEX_IS_ARRAY(text) ? QUVEX_SIZE(text) : INT32_MAX)
+/* The same where a constant is wanted: an array of variable length stops nothing before the program runs. */
+#define QUVEX_FIXED_ROOM(text) __builtin_choose_expr(__builtin_constant_p(sizeof(text)), QUVEX_ROOM(text), INT32_MAX)
 /* A constant as itself, anything else as 0: both are constants. */
 #define QUVEX_CONSTANT(number) __builtin_choose_expr(__builtin_constant_p(number), (number), 0)
 
@@ -75,7 +77,8 @@
 #define QUVEX_HAS_ROOM(destination, instead) \
   QUVEX_UNLESS(!QUVEX_IS_ARRAY(destination), "a pointer does not tell how much it holds: write " instead)
 #define QUVEX_FITS(source, destination) \
-  QUVEX_UNLESS(__builtin_constant_p(source) && QUVEX_IS_ARRAY(source) && QUVEX_SIZE(source) > QUVEX_ROOM(destination), \
+  QUVEX_UNLESS(__builtin_constant_p(source) && QUVEX_IS_ARRAY(source) && \
+               QUVEX_FIXED_ROOM(source) > QUVEX_FIXED_ROOM(destination), \
                "the literal does not fit in the destination")
 #define QUVEX_IS_BYTES(number, text) ((QUVEX_KIND(text) & 2) && sizeof(number) >= 4 && (__typeof__(number))-1 > 0)
 #define QUVEX_COUNTS(number, text) \
@@ -83,7 +86,7 @@
                "wide text is counted in units, where sizeof counts bytes: give an int32_t, or an array alone")
 #define QUVEX_WITHIN(number, destination) \
   QUVEX_COUNTS(number, destination) \
-  QUVEX_UNLESS(!QUVEX_IS_BYTES(number, destination) && QUVEX_CONSTANT(number) > QUVEX_ROOM(destination), \
+  QUVEX_UNLESS(!QUVEX_IS_BYTES(number, destination) && QUVEX_CONSTANT(number) > QUVEX_FIXED_ROOM(destination), \
                "this is more than the array holds")
 
 /* The twin for text of these kinds, joined with `|`. */
@@ -286,16 +289,16 @@
 /* ---- Integer and text ---- */
 
 /* In a radix that could need more than the array holds: the empty string. */
-#define quvex_to_text(value, destination, radix)                                                                \
-  (QUVEX_CHECK(QUVEX_WRITES(destination)                                                                        \
-                   QUVEX_HAS_ROOM(destination, "quvex_to_text_bounded(value, destination, size, radix)")        \
-                       QUVEX_UNLESS(QUVEX_IS_ARRAY(destination) &&                                              \
-                                        (QUVEX_SIZE(destination) < 8 ||                                         \
-                                         (QUVEX_CONSTANT(radix) > 1 &&                                          \
-                                          QUVEX_CONSTANT(radix) < QUVEX_LEAST_RADIX(QUVEX_SIZE(destination)))), \
-                                    "to_text needs 12 units in radix 10, 10 in radix 16, 34 in radix 2")),      \
-   QUVEX_AS(destination, QUVEX_TWIN(QUVEX_KIND(destination), quvex_to_text_narrow, quvex_to_text_wide)(         \
+#define quvex_to_text(value, destination, radix)                                                                    \
+  (QUVEX_CHECK(QUVEX_WRITES(destination)                                                                            \
+                   QUVEX_HAS_ROOM(destination, "quvex_to_text_bounded(value, destination, size, radix)")            \
+                       QUVEX_UNLESS(QUVEX_FIXED_ROOM(destination) < 8 ||                                            \
+                                        (QUVEX_CONSTANT(radix) > 1 &&                                               \
+                                         QUVEX_CONSTANT(radix) < QUVEX_LEAST_RADIX(QUVEX_FIXED_ROOM(destination))), \
+                                    "to_text needs 12 units in radix 10, 10 in radix 16, 34 in radix 2")),          \
+   QUVEX_AS(destination, QUVEX_TWIN(QUVEX_KIND(destination), quvex_to_text_narrow, quvex_to_text_wide)(             \
                              value, (void*)(destination), QUVEX_ROOM(destination), radix)))
+
 #define quvex_to_text_bounded(value, destination, size, radix)                                          \
   (QUVEX_CHECK(QUVEX_WRITES(destination) QUVEX_WITHIN(size, destination)),                              \
    QUVEX_AS(destination, QUVEX_TWIN(QUVEX_KIND(destination), quvex_to_text_narrow, quvex_to_text_wide)( \
@@ -334,10 +337,10 @@
                    QUVEX_WITHIN(size, destination)),                                                          \
    QUVEX_AS(destination,                                                                                      \
             QUVEX_002001((const void*)(source), (void*)(destination), quvex_lesser(size, QUVEX_ROOM(destination)))))
-#define quvex_widen_units(source, destination, count)                                                           \
-  (QUVEX_CHECK(                                                                                                 \
-       QUVEX_WRITES(destination) QUVEX_READS(source) QUVEX_ALIKE(QUVEX_CROSSING(destination, source))           \
-           QUVEX_UNLESS(QUVEX_CONSTANT(count) > QUVEX_ROOM(destination), "this is more than the array holds")), \
+#define quvex_widen_units(source, destination, count)                                                                 \
+  (QUVEX_CHECK(                                                                                                       \
+       QUVEX_WRITES(destination) QUVEX_READS(source) QUVEX_ALIKE(QUVEX_CROSSING(destination, source))                 \
+           QUVEX_UNLESS(QUVEX_CONSTANT(count) > QUVEX_FIXED_ROOM(destination), "this is more than the array holds")), \
    QUVEX_002002((const void*)(source), (void*)(destination), quvex_lesser(count, QUVEX_ROOM(destination))))
 #define quvex_copy_units(source, destination, count)                                                                \
   (QUVEX_CHECK(QUVEX_WRITES(destination) QUVEX_READS(source)                                                        \
