@@ -4,27 +4,25 @@ const $ = (id) => document.getElementById(id);
 const data = JSON.parse($('data').textContent);
 const operations = new Map(data.operations.map((each) => [each.name, each]));
 const module = new WebAssembly.Module(Uint8Array.from(atob(data.wasm), (c) => c.charCodeAt(0)));
-const mostTyped = 199;
 
 const hex = (value, size) => value.toString(16).padStart(2 * size, '0');
 const escaped = (text) => String(text).replace(/[&<>"]/g, (c) => `&#${c.charCodeAt(0)};`);
 const marked = (text) => escaped(text).replace(/`([^`]*)`/g, '<code>$1</code>');
-const plural = (count, what) => `${count} ${what}${count === 1 ? '' : 's'}`;
 const numbers = (from, to) => Array.from({length: Math.max(0, to - from)}, (_, i) => from + i);
+const isPrintable = (unit) => unit > 31 && unit < 127;
 
 // ---- A call: the console's parser and table, and the library, in a memory of their own ----
 
 const paths = new Map();  // by the stack at a hook
 
-// The path of source lines, outermost first, of the access whose hook runs.
+// The calls that led to the access whose hook runs, outermost first, each with its name and source line.
 function currentPath() {
   const {stack} = new Error();
   if (!paths.has(stack)) {
     const offsets = [...stack.matchAll(/wasm-function\[\d+\]:0x([0-9a-f]+)/g)].map(([, digits]) => parseInt(digits, 16));
     const frames = offsets.flatMap((offset) => data.sites[offset] || []).reverse();
     // What only forwards to an operation of the same name is no step of its own.
-    paths.set(stack, frames.filter((frame, i) => frame[2] !== frames[i + 1]?.[2])
-      .map(([file, line, name]) => ({file, line, name, key: `${file}:${line}`})));
+    paths.set(stack, frames.filter(({name}, i) => name !== frames[i + 1]?.name));
   }
   return paths.get(stack);
 }
@@ -33,48 +31,46 @@ function makeCall(typed, rooms = {}) {
   const hooks = {};
   let access = () => {};
   for (const {name} of WebAssembly.Module.imports(module)) {
-    const [, kind, bytes] = /(load|store|pc)(\d*)$/.exec(name);
-    hooks[name] = kind === 'pc' ? () => {} : (address) => access(kind, address >>> 0, Number(bytes));
+    const [, kind, size] = /(load|store|pc)(\d*)$/.exec(name);
+    hooks[name] = kind === 'pc' ? () => {} : (address) => access(kind, address >>> 0, Number(size));
   }
   const {memory, line, read, run} = new WebAssembly.Instance(module, {env: hooks}).exports;
   const bytes = new Uint8Array(memory.buffer), view = new DataView(memory.buffer);
-  const getters = {1: 'getUint8', 2: 'getUint16', 4: 'getUint32'};
-  const peek = ({base, size}, index) => view[getters[size]](base + size * index, true);
-
-  typed = typed.replaceAll('\t', ' ').replace(/[^\0-\x7f]/g, (c) => '\\u' + hex(c.charCodeAt(0), 2));
-  [...typed.slice(0, mostTyped)].forEach((c, i) => bytes[line.value + i] = c.charCodeAt(0));
+  const peek = ({base, size}, index) => view[`getUint${8 * size}`](base + size * index, true);
+  const ascii = typed.replaceAll('\t', ' ').replace(/[^\0-\x7f]/g, (c) => '\\u' + hex(c.charCodeAt(0), 2));
+  [...ascii.slice(0, 199)].forEach((c, i) => bytes[line.value + i] = c.charCodeAt(0));
   const told = read(), end = bytes.indexOf(0, told);
   const [message, json] = String.fromCharCode(...bytes.subarray(told, end)).split(/\n(?=\{)/);
-  const call = {line: typed, message: message.slice(2), steps: [], buffers: [], fault: null, ...JSON.parse(json)};
-  const tooLong = {verdict: 0, message: `the line is longer than ${mostTyped} characters`};
-  if (typed.length > mostTyped) Object.assign(call, tooLong);
+  const call = {line: ascii, message: message.slice(2), steps: [], buffers: [], fault: null, ...JSON.parse(json)};
+  if (ascii.length > 199) Object.assign(call, {verdict: 0, message: 'the line is longer than 199 characters'});
   for (const each of call.arguments) {
     each.isTyped = each.isText && each.isGiven && peek(each, each.length) === 0;  // and not named for what is provided
     each.text = numbers(0, each.length).map((i) => peek(each, i));
   }
   if (!call.verdict) return call;
 
-  // Memory from the highest address down: what each argument points to, with all that lies above it up to the next.
   call.arguments.forEach((argument, i) => {
-    const {name, size, isNull, owner, isText, isTyped, length, most} = argument;
+    const {name, size, isNull, owner, isTyped, length, most} = argument;
     if (!size || isNull || owner !== i) return;
     // What is forbidden shows where it happens: behind the string, and not in the markers after it.
-    const isExact = isTyped && call.verdict === 1, room = isExact ? length + 1 : most;
-    const aliases = call.arguments.filter((each) => each !== argument && each.isText && !each.isNull && each.owner === i)
+    const room = isTyped && call.verdict === 1 ? length + 1 : most;
+    const aliases = call.arguments.filter((each) => each !== argument && each.size && !each.isNull && each.owner === i)
       .map((each) => `${each.name} = ${name}${each.offset ? `+${each.offset}` : ''}`);
     call.buffers.push({...argument, argument, aliases, known: isTyped ? length + 1 : Number(most === 1),
       room: name in rooms && most > 1 ? Math.min(rooms[name], most) : room});
   });
   for (const buffer of call.buffers) buffer.units = numbers(0, buffer.room).map((i) => peek(buffer, i));
-  const own = (name) => ({name, isOwn: true, room: Infinity, known: 0, aliases: ['the operation\u2019s own']});
-  const constant = own('constant'), stack = own('stack'), isNull = call.arguments.find((each) => each.isNull);
+  // From the highest address down: what an argument points to, with all that lies above it up to the next; then what
+  // is the operation's own, which begins where its lowest access will have been.
+  const own = (name, known) => ({name, known, isOwn: true, base: Infinity, room: Infinity, aliases: ['its own']});
+  const isNull = call.arguments.find((each) => each.isNull);
   const nothing = {name: isNull?.name, size: 1, base: 0, room: 0, known: 0, aliases: ['null']};
-  const regions = [...call.buffers.map((buffer) => [buffer.base, buffer]), [65536, constant], [1024, stack], [0, nothing]]
-    .sort((a, b) => b[0] - a[0]);
+  const regions = [...call.buffers.map((buffer) => [buffer.base, buffer]), [65536, own('constant', Infinity)],
+    [1024, own('stack', 0)], [0, nothing]].sort((a, b) => b[0] - a[0]);
 
   let stored = null;  // A hook runs before its access: the value is there at the next.
   const settle = () => {
-    if (stored) stored.value = peek({...stored.buffer, base: stored.address}, 0);
+    if (stored) stored.value = peek(stored.buffer, stored.index);
     stored = null;
   };
   const overwrites = ({buffer, index}) => call.arguments.some((each) => each.isText && !each.isBuffer && !each.isNull &&
@@ -82,41 +78,34 @@ function makeCall(typed, rooms = {}) {
   access = (kind, address, size) => {
     settle();
     const buffer = regions.find(([start]) => start <= address)[1];
-    if (buffer.isOwn) Object.assign(buffer, {base: Math.min(buffer.base ?? address, address), size: buffer.size ?? size});
-    const step = {kind, buffer, address, path: currentPath(), index: Math.floor((address - buffer.base) / buffer.size)};
+    if (buffer.isOwn) Object.assign(buffer, {base: Math.min(buffer.base, address), size: buffer.size ?? size});
+    const step = {kind, buffer, path: currentPath(), get index() { return (address - buffer.base) / buffer.size; }};
     const isOverlap = kind === 'store' && call.verdict === 1 && overwrites(step);
     call.steps.push(step);
+    if (!call.buffers.includes(buffer)) call.buffers.push(buffer);
     if (step.index >= buffer.room || isOverlap) {
       throw call.fault = {step, reason: isOverlap ? 'overlap' : buffer === nothing ? 'null' : kind};
     }
-    if (kind === 'load') step.value = peek({...buffer, base: address}, 0);
+    if (kind === 'load') step.value = peek(buffer, step.index);
     else stored = step;
   };
   try {
     const [kind, number, address] = new Int32Array(memory.buffer, run(), 3);
     settle();
-    call.result = ['nothing', String(number), place(call, address)][kind];
+    call.result = ['nothing', number, place(call, address)][kind];
   } catch (fault) {
     if (fault !== call.fault) throw fault;
   }
-  for (const buffer of [constant, stack, nothing]) {
-    // Where it begins was not known before the last access to it.
-    const steps = call.steps.filter((step) => step.buffer === buffer);
-    for (const step of steps) step.index = (step.address - buffer.base) / buffer.size;
-    if (buffer.isOwn) buffer.room = 1 + Math.max(...steps.map((step) => step.index));
-    if (buffer === constant) buffer.known = buffer.room;
-    if (steps.length) call.buffers.push({...buffer, units: numbers(0, buffer.room).map((i) => peek(buffer, i))});
-    for (const step of steps) step.buffer = call.buffers.at(-1);
-  }
   for (const buffer of call.buffers) {
     buffer.used = call.steps.reduce((used, step) => step.buffer === buffer ? Math.max(used, step.index + 1) : used, 0);
+    if (buffer.isOwn) buffer.room = buffer.used;
+    buffer.units ??= numbers(0, buffer.room).map((i) => peek(buffer, i));
   }
   return call;
 }
 
 function place({buffers}, address) {
-  const isIn = ({isText, base, size, most}) => isText && address >= base && address < base + size * most;
-  const buffer = buffers.find(isIn);
+  const buffer = buffers.find(({isText, base, size, most}) => isText && address >= base && address < base + size * most);
   if (!address) return 'null';
   return buffer ? `${buffer.name}+${(address - buffer.base) / buffer.size}` : 'a constant empty string';
 }
@@ -144,18 +133,17 @@ function forbidding({name, fault: {reason, step}, message, arguments: all}) {
 
 let typed, call, rooms, now = 0, depth = -1, chosen = null, timer = 0;
 
-const address = (text) => '#' + encodeURI(text);
-const withRooms = (line, rooms) =>
-  [line, ...Object.entries(rooms).map(([name, room], i) => `${i ? '' : '| '}${name}[${room}]`)].join(' ');
-const isPrintable = (unit) => unit > 31 && unit < 127;
 const inputs = () => [...$('fields').querySelectorAll('input')];
+const address = (text) => '#' + encodeURI(text);
+const withRooms = (line, rooms) => [line, ...Object.entries(rooms).map(([name, room], i) =>
+  `${i ? '' : '| '}${name}[${room}]`)].join(' ');
 
-// Replace what has changed, so that the rest keeps its place and the focus.
+// Replace what has changed, so that the rest keeps its place, and what has the focus keeps it.
 function patch(list, items) {
   const old = list.items, focus = document.activeElement.id;
-  list.items = items;
-  if (old?.length !== items.length || !list.children.length) list.innerHTML = items.join('');
+  if (old?.length !== items.length) list.innerHTML = items.join('');
   else items.forEach((item, i) => { if (item !== old[i]) list.children[i].outerHTML = item; });
+  list.items = items;
   if (focus && document.activeElement.id !== focus) $(focus)?.focus({preventScroll: true});
 }
 
@@ -170,14 +158,13 @@ const spoken = (unit, buffer) => buffer.size === 4 ? glyph(unit, buffer) :
   `${isPrintable(unit) ? `'${String.fromCharCode(unit)}' ` : ''}0x${hex(unit, buffer.size)}`;
 
 // An argument's value as the console takes it.
-function valueOf({name, isText, isTyped, isGiven, isNull, number, owner, offset, text, most}, i) {
+function valueOf({name, isTyped, isGiven, isNull, number, owner, offset, text, most}, i) {
   const quoted = (unit) => isPrintable(unit) ? (unit === 34 || unit === 92 ? '\\' : '') + String.fromCharCode(unit) :
     unit > 255 ? '\\u' + hex(unit, 2) : '\\x' + hex(unit, 1);
   if (isNull) return 'null';
   if (owner !== i) return typed.arguments[owner].name + (offset ? `+${offset}` : '');
   if (isTyped) return `"${text.map(quoted).join('')}"`;
-  if (!isGiven || isText || most > 1 && !isText && number === 0 && name === 'array') return '';
-  return name === 'character' && isPrintable(number) ? `'${quoted(number)}'` : number;
+  return !isGiven || most > 1 ? '' : name === 'character' && isPrintable(number) ? `'${quoted(number)}'` : number;
 }
 
 // The fields as a line. A text stands before what names it; what may be left out, or leaves the order, says its name.
@@ -190,8 +177,8 @@ function lineOf(fields, isWide = typed.isWide) {
 }
 
 function show(text, origin) {
-  const [, line, bounds] = /^(.*?)(?: \| ((?:\w+\[\d+\] ?)+))?$/s.exec(text), before = typed;
-  rooms = Object.fromEntries([...(bounds || '').matchAll(/(\w+)\[(\d+)\]/g)].map(([, name, room]) => [name, Number(room)]));
+  const [, line, bounds = ''] = /^(.*?)(?: \| ((?:\w+\[\d+\] ?)+))?$/s.exec(text), before = typed;
+  rooms = Object.fromEntries([...bounds.matchAll(/(\w+)\[(\d+)\]/g)].map(([, name, room]) => [name, Number(room)]));
   const latest = makeCall(line, rooms);
   if (latest.name) typed = latest;
   // A line that is no call yet leaves the last call in sight, unless it is another operation's.
@@ -200,88 +187,79 @@ function show(text, origin) {
   if (origin !== 'fields' && latest.verdict) inputs().forEach((field, i) => field.value = valueOf(typed.arguments[i], i));
   if (origin !== 'line') $('line').value = text;
   if (origin !== 'address') history.replaceState(null, '', address(text));
+  [...$('width').children].forEach((link, i) => link.href = address(withRooms(lineOf(inputs(), i), rooms)));
   document.body.classList.toggle('stale', !latest.verdict);
   showResult(latest);
   if (!latest.verdict && call !== typed) return;
-  stop();
-  now = call.steps.length;
-  $('slider').max = now;
+  $('slider').max = call.steps.length;
   showContract();
-  showBuffers();
   showPlot();
-  showStep();
+  go(Infinity);
   setTimeout(showTry);
 }
 
 function showOperation() {
   const {name, isWide, parameters: listed} = typed, {links, cost} = operations.get(name);
   const {link, parameters} = links[links[1] ? isWide : 0];
-  depth = -1;
-  chosen = null;
+  [depth, chosen] = [-1, null];
   document.title = `${name} \u2013 Quvex, unit by unit`;
   $('name').textContent = name;
   $('link').textContent = link;
   $('width').hidden = !links[1];
-  [...$('width').children].forEach((button, i) => button.ariaPressed = String(isWide === i));
+  [...$('width').children].forEach((link, i) => link.ariaCurrent = isWide === i ? 'true' : null);
   $('fields').innerHTML = typed.arguments.map(({name, isText, most}, i) => {
     const isOptional = listed.includes(`[${name}]`), placeholder = !isOptional ? '' : most === 1 ? '0' : 'provided';
-    return `<label><span>${name} <small>${parameters[i][0].replaceAll('quvex_', '')}</small></span>
-      <input name="${name}" ${isOptional ? '' : 'required'} size="${isText ? 16 : 11}" placeholder="${placeholder}"
-      spellcheck="false" autocomplete="off"></label>`;
+    return `<label><span>${name} <small>${parameters[i][0].replaceAll('quvex_', '')}</small></span><input name="${name}"
+      ${isOptional ? '' : 'required'} size="${isText ? 16 : 11}" placeholder="${placeholder}" spellcheck="false"></label>`;
   }).join('');
   for (const item of $('list').querySelectorAll('a')) item.ariaCurrent = item.textContent === name ? 'page' : null;
   $('list').querySelector('[aria-current]').scrollIntoView({block: 'nearest'});
-  const rows = Object.entries(cost[isWide && links[1] ? 'wide' : 'narrow']).map(([what, cells]) =>
-    `<tr><th scope="row">${what}${cells.map((cell) => `<td>${cell}`).join('')}`);
-  $('cost').innerHTML = `<tr><td><th scope="col">for size<th scope="col">for speed${rows.join('')}`;
+  const rows = Object.entries(cost[isWide && links[1] ? 'wide' : 'narrow']).map((row) => row.flat().join('<td>'));
+  $('cost').innerHTML = ['<td><th scope="col">for size<th scope="col">for speed', ...rows.map((row) =>
+    `<th scope="row">${row}`)].map((row) => `<tr>${row}`).join('');
 }
 
 function showResult({verdict, message, fault, result, steps}) {
   const {reason, step} = fault || {}, loads = steps.filter(({kind}) => kind === 'load').length;
-  const count = steps.length ? `${plural(loads, 'load')}, ${plural(steps.length - loads, 'store')}` : 'no memory is touched';
   const why = {null: 'is an access through null', overlap: 'writes what is to be read'}[reason] ||
-    step && `leaves ${plural(step.buffer.room, step.buffer.isText ? 'unit' : 'slot')}`;
-  $('result').className = !verdict ? 'refused' : fault || verdict === 1 ? 'fault' : '';
-  $('result').innerHTML = !verdict ? `<b>?</b> ${escaped(message)}` : verdict === 2 && !fault ?
-    `returns <b>${result}</b> <small>${count}</small>` : `<b>The caller\u2019s fault:</b> ${!fault ? escaped(message) :
-    `<code>${step.kind} ${step.buffer.name}[${step.index}]</code> ${why}. <q>${marked(forbidding(call))}</q>`}`;
-}
-
-function showBuffers() {
-  patch($('buffers'), call.buffers.map(({name, aliases, room, most, used, size}, b) => {
-    const less = Math.min(room, used) - 1, step = (id, to, word, sign, isOn) => `<button id="${id}-${b}" data-room="${name}"
-      data-to="${to}" aria-label="${word} room for ${name}" ${isOn ? '' : 'disabled'}>${sign}</button>`;
-    return `<section class="buffer" aria-label="${name}"><h3>${name} <small>${aliases.join(', ')}</small>
-      <small id="count-${b}"></small>${!(most > 1) ? '' : `<span class="room">room for ${room}
-      ${step('less', less, 'Less', '\u2212', less >= 0)}${step('more', room + 1, 'More', '+', name in rooms)}</span>`}</h3>
-      <div id="cells-${b}" class="cells ${size === 4 && most > 1 ? 'broad' : ''}"></div></section>`;
-  }));
+    `is beyond the room for ${step?.buffer.room}`;
+  const what = fault ? `<code>${step.kind} ${step.buffer.name}[${step.index}]</code> ${why}. <q>${marked(forbidding(call))}</q>` :
+    `${escaped(message)} (no harm done this time)`;
+  $('result').className = ['refused', 'fault', fault ? 'fault' : ''][verdict];
+  $('result').innerHTML = !verdict ? `<b>?</b> ${escaped(message)}` : verdict === 1 || fault ?
+    `<b>The caller\u2019s fault:</b> ${what}` : `returns <b>${result}</b>
+    <small>loads: ${loads}, stores: ${steps.length - loads}</small>`;
 }
 
 // The units of each buffer after so many accesses, and which were read and written until then.
-function showCells(current) {
-  const state = new Map(call.buffers.map((buffer) => [buffer, {units: [...buffer.units], load: new Set(), store: new Set()}]));
-  for (const {buffer, kind, index, value} of call.steps.slice(0, now)) {
-    state.get(buffer)[kind].add(index);
-    if (kind === 'store' && value !== undefined) state.get(buffer).units[index] = value;
-  }
-  call.buffers.forEach((buffer, b) => {
-    const {name, size, most, room, known, used, isOwn} = buffer, {units, load, store} = state.get(buffer);
-    const inside = Math.min(room, Math.max(known, used) + (isOwn || most === 1 ? 0 : 3));
+function showMemory(current) {
+  patch($('buffers'), call.buffers.map((buffer, b) => {
+    const {name, aliases, size, most, room, known, used, isOwn} = buffer, units = [...buffer.units];
+    const touched = {load: new Set(), store: new Set()};
+    for (const {kind, index, value} of call.steps.slice(0, now).filter((step) => step.buffer === buffer)) {
+      touched[kind].add(index);
+      if (kind === 'store' && value !== undefined) units[index] = value;
+    }
+    const inside = Math.min(room, Math.max(isOwn ? 0 : known, used) + (most > 1 ? 3 : 0));
     const outside = used > room ? [...numbers(room, Math.min(room + 4, used - 1)), used - 1] : [];
     const cells = [...numbers(0, inside), ...outside].map((index) => {
-      const isOutside = index >= room, isNever = !isOutside && index >= known && !load.has(index) && !store.has(index);
-      const isNow = current?.buffer === buffer && current.index === index, isBlank = isOutside || isNever;
-      const kinds = [...load.has(index) ? ['read'] : [], ...store.has(index) ? ['written'] : []];
-      const says = [isOutside ? 'outside' : isNever ? 'marker, never written' : spoken(units[index], buffer), ...kinds];
-      return `<button id="unit-${b}-${index}" tabindex="${index && -1}" aria-label="${escaped(`${name}[${index}]: ${says.join(', ')}`)}"
-        class="${['cell', ...kinds, ...isNever ? ['never'] : [], ...isOutside ? ['outside'] : []].join(' ')}"
-        ${isNow ? 'aria-current="step"' : ''}><i>${index}</i><b>${isBlank ? '' : escaped(glyph(units[index], buffer))}</b><small>${
-        isOutside || size === 4 || (isOwn && isNever) ? '' : hex(units[index], size)}</small></button>`;
+      const read = touched.load.has(index), written = touched.store.has(index), isOutside = index >= room;
+      const never = !isOutside && index >= known && !read && !written, isBlank = isOutside || never;
+      const is = Object.entries({outside: isOutside, never, read, written}).filter(([, yes]) => yes).map(([what]) => what);
+      const label = `${name}[${index}]: ${[...isBlank ? [] : [spoken(units[index], buffer)], ...is].join(', ')}`;
+      return `<button id="unit-${b}-${index}" class="cell ${is.join(' ')}" tabindex="${index && -1}"
+        aria-label="${escaped(label)}" ${current?.buffer === buffer && current.index === index ? 'aria-current="step"' : ''}>
+        <i>${index}</i><b>${isBlank ? '' : escaped(glyph(units[index], buffer))}</b>
+        <small>${isOutside || size === 4 || (isOwn && never) ? '' : hex(units[index], size)}</small></button>`;
     });
-    patch($(`cells-${b}`), [...cells, `<small>${room > inside && !outside.length ? `+${room - inside}` : ''}</small>`]);
-    $(`count-${b}`).textContent = `${load.size} read, ${store.size} written`;
-  });
+    const {[name]: given, ...others} = rooms, fewer = withRooms(typed.line, {...rooms, [name]: Math.min(room, used) - 1});
+    const links = [[given !== undefined, withRooms(typed.line, others), 'room enough'], [used && room, fewer, 'one too few']];
+    return `<section class="buffer" aria-label="${name}"><h3>${name} <small>${[...aliases, `${touched.load.size} read,
+      ${touched.store.size} written`].join(', ')}</small>${most > 1 ? `<small class="room">room for ${room} ${links.map(
+      ([isOn, line, text]) => isOn ? ` <a href="${escaped(address(line))}">${text}</a>` : '').join('')}</small>` : ''}</h3>
+      <div class="cells ${size === 4 && most > 1 ? 'broad' : ''}">${cells.join('')}
+      <small>${room > inside && !outside.length ? `+${room - inside}` : ''}</small></div></section>`;
+  }));
 }
 
 function showStep() {
@@ -293,93 +271,72 @@ function showStep() {
   $('slider').value = now;
   $('slider').ariaValueText = `${count}: ${does}`;
   $('plot').querySelector('.time')?.setAttribute('transform', `translate(${timeAt(now)})`);
-  if (now === call.steps.length) stop();
-  showCells(step);
+  showMemory(step);
   showSource(step);
-}
-
-// To the next access that fits, or the first.
-function seek(fits) {
-  const found = call.steps.flatMap((step, i) => fits(step) ? [i + 1] : []);
-  if (found.length) by((found.find((at) => at > now) ?? found[0]) - now);
 }
 
 // The plot: time to the right, in line with the slider, and a band for each buffer.
 const margin = 8;  // half of the slider's thumb
 const timeAt = (count) => margin + count / Math.max(1, call.steps.length) * ($('plot').clientWidth - 2 * margin);
-const isChosen = (step) => step.path.some((frame) => frame.key === chosen);
+const isChosen = ({path}) => path.some(({key}) => key === chosen);
 
 function showPlot() {
-  const {steps, fault} = call, width = $('plot').clientWidth, long = Math.max(1.5, timeAt(1) - timeAt(0) - 1).toFixed(1);
+  const {fault} = call, width = $('plot').clientWidth, long = Math.max(1.5, timeAt(1) - timeAt(0) - 1).toFixed(1);
   let top = 0, bands = '';
   for (const buffer of call.buffers.filter(({used}) => used)) {
-    const lowest = Math.min(...steps.filter((step) => step.buffer === buffer).map((step) => step.index));
-    const unit = Math.max(2, Math.min(8, Math.floor(64 / (buffer.used - lowest))));
-    const path = (name, fits) => `<path class="${name}" d="${steps.map((step, i) => step.buffer !== buffer || !fits(step) ? '' :
-      `M${timeAt(i).toFixed(1)} ${top + 18 + unit * (step.index - lowest)}h${long}v${unit}h-${long}z`).join('')}"/>`;
+    const steps = call.steps.map((step, i) => [step, i]).filter(([step]) => step.buffer === buffer);
+    const lowest = Math.min(...steps.map(([{index}]) => index)), units = buffer.used - lowest;
+    const unit = Math.max(2, Math.min(8, Math.floor(64 / units)));
+    const path = (name, fits) => `<path class="${name}" d="${steps.filter(([step]) => fits(step)).map(([{index}, i]) =>
+      `M${timeAt(i).toFixed(1)} ${top + 18 + unit * (index - lowest)}h${long}v${unit}h-${long}z`).join('')}"/>`;
     bands += `<text x="${margin}" y="${top + 13}">${buffer.name}</text><rect x="${margin}" y="${top + 18}"
-      width="${Math.max(0, width - 2 * margin)}" height="${unit * (buffer.used - lowest)}"/>${path('read', ({kind}) => kind === 'load')}
-      ${path('written', ({kind}) => kind === 'store')}${path('fault', (step) => step === fault?.step)}${path('chosen', isChosen)}`;
-    top += unit * (buffer.used - lowest) + 22;
+      width="${Math.max(0, width - 2 * margin)}" height="${unit * units}"/>` + path('read', ({kind}) => kind === 'load') +
+      path('written', ({kind}) => kind === 'store') + path('fault', (step) => step === fault?.step) + path('chosen', isChosen);
+    top += unit * units + 22;
   }
-  $('plot').innerHTML = steps.length ? `<svg width="${width}" height="${top}" role="img" aria-label="The ${steps.length}
-    accesses over time, a band for each buffer">${bands}<path class="time" d="M0 0V${top}"/></svg>` : '';
+  $('plot').innerHTML = bands && `<svg width="${width}" height="${top}" role="img" aria-label="The ${call.steps.length}
+    accesses over time, a band for each buffer">${bands}<path class="time" d="M0 0V${top}"/></svg>`;
 }
 
+// The line that makes the access, in the innermost call or the one that is chosen, and how many accesses each line makes.
 function showSource(step) {
-  const path = step?.path || [], at = depth in path ? depth : path.length - 1, frame = path[at];
-  const {link} = operations.get(call.name).links[0], count = new Map();
-  const file = frame?.file || Object.keys(data.sources).find((name) => data.sources[name].includes(`${link}(`) && /cpp$/.test(name));
-  const lines = data.sources[file].trimEnd().split('\n');
-  const line = frame?.line || 1 + lines.findIndex((text) => text.includes(` ${call.name}(`));
-  for (const {path} of call.steps) for (const key of new Set(path.map(({key}) => key))) count.set(key, (count.get(key) || 0) + 1);
-  $('path').innerHTML = path.map(({name, file, line}, i) => `<button id="path-${i}" data-depth="${i}" aria-pressed="${i === at}">
-    ${name} <small>${file.split('/').pop()}:${line}</small></button>`).join(' \u203a ') ||
-    (step ? 'This browser does not tell the line of an access.' : `<small>${file}</small>`);
+  const path = step?.path || [], at = depth in path ? depth : path.length - 1, count = {};
+  const {link} = operations.get(call.name).links[0];
+  const home = Object.keys(data.sources).find((name) => /cpp$/.test(name) && data.sources[name].includes(`${link}(`));
+  const [file, number] = path[at]?.key.split(':') || [home, 0], lines = data.sources[file].trimEnd().split('\n');
+  for (const each of call.steps) for (const key of new Set(each.path.map(({key}) => key))) count[key] = (count[key] || 0) + 1;
+  $('file').textContent = step && !path.length ? 'this browser does not tell the line' : file;
+  $('path').innerHTML = path.map(({name, key}, i) => `<button id="path-${i}" data-depth="${i}" aria-pressed="${i === at}">
+    ${name} <small>${key.split(':')[1]}</small></button>`).join(' \u203a ');
   patch($('source'), lines.map((text, i) => {
-    const key = `${file}:${i + 1}`, times = count.get(key), [tag, more] = times ?
-      ['button', `data-key="${key}" id="${key}" aria-pressed="${key === chosen}"`] : ['div', ''];
-    return `<${tag} class="row ${frame && i + 1 === line ? 'now' : ''}" ${more}><small>${i + 1}</small><code>${escaped(text)}</code>
-      <small>${times ? `\u00d7${times}` : ''}</small></${tag}>`;
+    const key = `${file}:${i + 1}`, tag = count[key] ? 'button' : 'div';
+    const more = count[key] ? `id="${key}" data-key="${key}" aria-pressed="${key === chosen}"` : '';
+    return `<${tag} class="row ${i + 1 === Number(number) ? 'now' : ''}" ${more}><small>${i + 1}</small>
+      <code>${escaped(text)}</code><small>${count[key] ? `\u00d7${count[key]}` : ''}</small></${tag}>`;
   }));
-  const list = $('source'), top = list.children[Math.max(line - 1, 0)].offsetTop, {clientHeight: height} = list;
-  if (top < list.scrollTop + 30 || top > list.scrollTop + height - 50) list.scrollTop = top - height / 3;
-}
-
-function choose(key) {
-  chosen = key;
-  showPlot();
-  if (key) seek(isChosen);
-  else showStep();
+  const list = $('source'), line = number || 1 + lines.findIndex((text) => text.includes(` ${call.name}(`));
+  const top = list.children[Math.max(line - 1, 0)].offsetTop - list.scrollTop;
+  if (top < 30 || top > list.clientHeight - 50) list.scrollTop += top - list.clientHeight / 3;
 }
 
 function showContract() {
   const {contract, family} = operations.get(call.name), broken = call.fault && forbidding(call);
-  const paragraphs = (text) => sentences(text).map((each) => `<p>${each.map((sentence) =>
+  const part = (title, text) => title + sentences(text).map((each) => `<p>${each.map((sentence) =>
     sentence === broken ? `<mark>${marked(sentence)}</mark>` : marked(sentence)).join(' ')}</p>`).join('');
-  const {[family]: general} = data.families, brokenRule = data.conventions.filter((text) => sentences(text).flat().includes(broken));
-  $('contract').innerHTML = paragraphs(contract) + (general && `<h3>${family}</h3>${paragraphs(general)}`) +
-    brokenRule.map((rule) => `<h3>All operations</h3>${paragraphs(rule)}`).join('') +
-    `<details><summary>What holds for all operations</summary>${data.conventions.map(paragraphs).join('')}</details>`;
+  const rule = data.conventions.find((text) => sentences(text).flat().includes(broken)), general = data.families[family];
+  $('contract').innerHTML = part('', contract) + (general && part(`<h3>${family}</h3>`, general)) +
+    (rule ? part('<h3>All operations</h3>', rule) : '') +
+    `<details><summary>What holds for all operations</summary>${data.conventions.map((each) => part('', each)).join('')}</details>`;
 }
 
 function showTry() {
-  const link = (line, text) => `<li><a href="${escaped(address(line))}">${escaped(text)}</a>`;
-  const lines = operations.get(call.name).examples.map((line) => [makeCall(line).verdict, link(line, line)]);
-  const of = (wanted) => lines.filter(([verdict]) => verdict === wanted).map(([, item]) => item);
-  const tooFew = call.fault || call.verdict !== 2 ? [] : call.buffers.filter(({most, used}) => most > 1 && used)
-    .map(({name, used, known}) => link(withRooms(call.line, {...rooms, [name]: used - 1}),
-      `${name} ${used === known ? 'without its terminator' : 'one too short'}`));
-  const forbidden = [...tooFew, ...of(1)].join('');
-  $('try').innerHTML = `<ul>${of(2).join('')}</ul>${forbidden && `<h3>Outside the contract</h3><ul>${forbidden}</ul>`}`;
+  const verdicts = operations.get(call.name).examples.map((line) => [line, makeCall(line).verdict]);
+  const list = (title, wanted) => verdicts.some(([, verdict]) => verdict === wanted) ? `${title}<ul>${verdicts.map(
+    ([line, verdict]) => verdict === wanted ? `<li><a href="${escaped(address(line))}">${escaped(line)}</a>` : '').join('')}</ul>` : '';
+  $('try').innerHTML = list('', 2) + list('<h3>Outside the contract</h3>', 1);
 }
 
 // ---- Hands ----
-
-function by(count) {
-  now = Math.max(0, Math.min(now + count, call.steps.length));
-  showStep();
-}
 
 function stop() {
   clearInterval(timer);
@@ -387,35 +344,47 @@ function stop() {
   $('play').ariaLabel = 'Play';
 }
 
-function play() {
-  if (timer || !call.steps.length) return stop();
-  if (now === call.steps.length) by(-Infinity);
-  timer = setInterval(() => by(1), Math.max(30, Math.min(300, 12000 / call.steps.length)));
-  $('play').ariaLabel = 'Pause';
+function go(count, isPlaying = false) {
+  now = Math.max(0, Math.min(count, call.steps.length));
+  if (!isPlaying || now === call.steps.length) stop();
+  showStep();
 }
 
-const acts = {first: -Infinity, back: -1, forth: 1, last: Infinity};
-for (const [id, count] of Object.entries(acts)) $(id).onclick = () => { stop(); by(count); };
-$('play').onclick = play;
-$('slider').oninput = () => { stop(); by($('slider').value - now); };
-$('plot').onclick = ({offsetX}) => { stop(); by(Math.ceil((offsetX - margin) / (timeAt(1) - timeAt(0))) - now); };
+// To the next access that fits, or the first.
+function seek(fits) {
+  const found = call.steps.flatMap((step, i) => fits(step) ? [i + 1] : []);
+  go(found.find((at) => at > now) ?? found[0] ?? now);
+}
+
+function choose(key) {
+  chosen = key;
+  showPlot();
+  seek(isChosen);
+}
+
+$('play').onclick = () => {
+  if (timer || !call.steps.length) return stop();
+  if (now === call.steps.length) go(0);
+  timer = setInterval(() => go(now + 1, true), Math.max(30, Math.min(300, 12000 / call.steps.length)));
+  $('play').ariaLabel = 'Pause';
+};
+for (const [id, count] of Object.entries({first: -Infinity, back: -1, forth: 1, last: Infinity})) {
+  $(id).onclick = () => go(now + count);
+}
+$('slider').oninput = () => go(Number($('slider').value));
+$('plot').onclick = ({offsetX}) => go(Math.ceil((offsetX - margin) / (timeAt(1) - timeAt(0))));
 $('line').oninput = () => show($('line').value, 'line');
 $('fields').oninput = () => show(withRooms(lineOf(inputs()), rooms), 'fields');
 $('fields').onsubmit = (event) => event.preventDefault();
-[...$('width').children].forEach((button, i) => button.onclick = () => show(withRooms(lineOf(inputs(), i), rooms)));
 $('copy').onclick = () => { navigator.clipboard?.writeText(typed.line); $('line').select(); };
-$('keys').onclick = () => $('help').showModal();
 $('menu').onclick = () => { $('menu').ariaExpanded = String(document.body.classList.toggle('menu')); };
 
 addEventListener('click', ({target}) => {
-  const {id, dataset: {room, to, key, depth: chosenDepth}} = target.closest('button') || document.body;
+  const {id, dataset: {key, depth: at}} = target.closest('button') || document.body;
   const [, b, index] = /^unit-(\d+)-(\d+)$/.exec(id) || [];
   if (b) seek((step) => step.buffer === call.buffers[b] && step.index === Number(index));
   if (key) choose(key);
-  if (chosenDepth) depth = Number(chosenDepth), showStep();
-  if (!room) return;
-  const {[room]: _, ...others} = rooms, {most} = call.buffers.find(({name}) => name === room);
-  show(withRooms(typed.line, to < most ? {...rooms, [room]: to} : others));
+  if (at) depth = Number(at), showStep();
 });
 
 $('filter').oninput = () => {
@@ -425,14 +394,13 @@ $('filter').oninput = () => {
 };
 $('filter').onkeydown = ({key}) => { if (key === 'Enter') $('list').querySelector('li:not([hidden]) a')?.click(); };
 
-const keys = {ArrowLeft: 'back', ArrowRight: 'forth', Home: 'first', End: 'last', ' ': 'play', '?': 'keys'};
+const keys = {ArrowLeft: 'back', ArrowRight: 'forth', Home: 'first', End: 'last', ' ': 'play'};
 addEventListener('keydown', (event) => {
-  const {key, target, ctrlKey, altKey, metaKey} = event;
+  const {key, target, ctrlKey, altKey, metaKey} = event, isCell = target.classList.contains('cell');
   const beside = {ArrowLeft: 'previousElementSibling', ArrowRight: 'nextElementSibling'}[key];
-  if (key === 'Escape' && !$('help').open) target.blur(), choose(null);
-  if (ctrlKey || altKey || metaKey || $('help').open || target.tagName === 'INPUT') return;
-  if (key === ' ' && target !== document.body) return;
-  if (beside && target.classList.contains('cell')) target[beside]?.focus();
+  if (key === 'Escape') target.blur(), choose(null);
+  if (ctrlKey || altKey || metaKey || target.tagName === 'INPUT' || (key === ' ' && target !== document.body)) return;
+  if (isCell && beside) target[beside]?.focus();
   else if (key === '/') $('filter').focus();
   else if (keys[key]) $(keys[key]).click();
   else return;
@@ -440,12 +408,9 @@ addEventListener('keydown', (event) => {
 });
 
 function open() {
-  let text = location.hash.slice(1);
-  try {
-    text = decodeURIComponent(text);
-  } catch {}  // a % that this page did not write
   document.body.classList.remove('menu');
-  show(text || operations.get('replace').examples[0], 'address');
+  const text = decodeURIComponent(location.hash.slice(1).replace(/%(?![0-9a-f]{2})/gi, '%25'));
+  show(operations.get(text || 'replace')?.examples[0] || text, 'address');
 }
 
 $('list').innerHTML = Object.keys(data.families).map((title) => `<section><h3>${title}</h3><ul>${
