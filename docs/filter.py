@@ -54,6 +54,7 @@ def operation(match):
     lines += [f"| {twin} | " + " | ".join(cost(name, twin)) + " |" for twin in twins]
     code, output = re.fullmatch(r"```cpp\n(.*?)```\n```text\n(.*?)```\n*", EXAMPLES[name], re.S).groups()
     lines += ["", "@code{.cpp}", code.rstrip(), "@endcode", "prints", "@code{.unparsed}", output.rstrip(), "@endcode"]
+    lines += ["", f'<a href="quvex.html#{name}">See it at work, unit by unit</a>']
     # Each twin has a line of its own, so that a search for its link name finds it.
     for number, twin in zip(numbers, twins):
         line = f'/** The {twin} @ref operation_{name} "{name}". */\n'
