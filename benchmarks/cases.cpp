@@ -1,6 +1,6 @@
 // Calls every operation, and the C library's counterpart of it, once for each case and length, all from `measured`,
-// whose calls benchmarks/count.py counts. One line is printed for each call. Arguments choose a part: `short` one
-// length, `ours` or `theirs` one side.
+// whose calls benchmarks/count.py counts. One line is printed for each call. Arguments choose a part: `short` two
+// lengths, `ours` or `theirs` one side.
 
 #include "board.h"
 #include "quvex.h"
@@ -50,10 +50,10 @@ struct Case {
   Function library;
 };
 
-constexpr uint32_t longest = 4096;
-// Of text and of numerals: all, and the last of them alone.
-const uint32_t lengths[][6] = {{7, 256, 1024, longest, 512, 0}, {1, 4, 7, 10, 0}};
-const uint32_t last_length[][2] = {{512, 0}, {10, 0}};
+constexpr uint32_t longest = 1024;
+// Of text and of numerals: all, and two of them alone.
+const uint32_t lengths[][5] = {{7, 256, 512, longest, 0}, {1, 4, 7, 10, 0}};
+const uint32_t two_lengths[][3] = {{7, 512, 0}, {7, 10, 0}};
 
 constexpr const char16_t* upper = u"ABCDEFGHIJKLMNOPQRSTUVWXYZ";
 constexpr const char16_t* blanks = u"  ABCDEFGHIJKLMNOPQRSTUVWXYZ";
@@ -186,7 +186,7 @@ template <class Unit>
 void run(const Case& row, const Function& function, const char* kinds, bool all) {
   if (!function.address) return;
   const bool of_digits = *kinds == 'v';
-  for (const uint32_t* length = all ? lengths[of_digits] : last_length[of_digits]; *length; ++length) {
+  for (const uint32_t* length = all ? lengths[of_digits] : two_lengths[of_digits]; *length; ++length) {
     fill<Unit>(text, row.text, *length, '!', 0);
     fill<Unit>(twin, row.text, *length, '?', kinds[1] == 'f' ? 'A' ^ 'a' : 0);
     put<Unit>(needle, row.needle);

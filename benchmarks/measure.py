@@ -4,6 +4,7 @@ import concurrent.futures
 import os
 import pathlib
 import re
+import shutil
 import subprocess
 
 import count
@@ -18,8 +19,17 @@ WIDE = {name for name in FIFTY if re.search(rf"\b{name}\([^)q]*quvex_wide", HEAD
 
 GNU = "arm-none-eabi-"
 CORE = ["-mcpu=cortex-m4", "-mthumb", "-mfloat-abi=soft"]
-BUILDS = ("gcc size", "gcc speed", "clang size", "clang speed")
+CLANG = ["--target=thumbv7em-none-eabi", *CORE, "-isystem", "/usr/lib/arm-none-eabi/include"]
+COMPILERS = {"gcc": [GNU + "g++", *CORE], **{f"clang-{number}": [f"clang++-{number}", *CLANG] for number in (14, 19)}}
+BUILDS = tuple(f"{compiler} {kind}" for kind in ("size", "speed") for compiler in COMPILERS)
 LIBRARIES = ("newlib", "newlib-nano", "picolibc")
+
+# What CMake is told beside the compiler: its two builds that are measured, and the others that a project may ask for.
+PRESETS = {"size": ["target"], "speed": ["target-speed"], "release": ["target", "-DCMAKE_BUILD_TYPE=Release"],
+           "release-small": ["target", "-DCMAKE_BUILD_TYPE=Release", "-DCMAKE_CXX_FLAGS_RELEASE=-Os"]}
+BARE = "-ffunction-sections -fno-exceptions -fno-unwind-tables -fno-asynchronous-unwind-tables"
+# Doors whose flags stand in a file of the library.
+FILES = {"Zephyr": "zephyr/CMakeLists.txt", "PlatformIO": "library.json", "ESP-IDF": "cmake/esp_idf.cmake"}
 
 Measured = collections.namedtuple("Measured", "instructions cycles")
 
@@ -32,19 +42,107 @@ def run(*command, **options):
     return done.stdout
 
 
+def in_parallel(function, *lists):
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        return list(pool.map(function, *lists))
+
+
+def version(compiler):
+    """As a reader names it: GCC 12.2, clang 14.0."""
+    number = run(COMPILERS[compiler][0], "-dumpfullversion" if compiler == "gcc" else "-dumpversion")
+    return ("GCC " if compiler == "gcc" else "clang ") + number.strip()
+
+
 def folder_of(build):
     return FOLDER / build.replace(" ", "-")
 
 
-def build(name, *targets):
-    """One of BUILDS, by the library's own CMake target; the compiler also notes each function's stack."""
-    folder = folder_of(name)
+def build(name):
+    """`gcc size`: by the library's own CMake target; the compiler also notes each function's stack."""
     compiler, kind = name.split()
-    preset = {"size": "target", "speed": "target-speed"}[kind]
-    other = ["--toolchain", ROOT / "cmake/cortex-m4-clang.cmake"] if compiler == "clang" else []
-    run("cmake", "--preset", preset, *other, "-B", folder, "-DBUILD_TESTING=OFF", cwd=ROOT,
+    options = [] if compiler == "gcc" else ["--toolchain", ROOT / "cmake/cortex-m4-clang.cmake",
+                                            f"-DCMAKE_CXX_COMPILER={COMPILERS[compiler][0]}"]
+    run("cmake", "--preset", *PRESETS[kind], *options, "-B", folder_of(name), "-DBUILD_TESTING=OFF", cwd=ROOT,
         env={**os.environ, "CXXFLAGS": "-fstack-usage"})
-    run("cmake", "--build", folder, "--target", "quvex", *targets)
+    run("cmake", "--build", folder_of(name), "--target", "quvex")
+
+
+def build_images(archives):
+    """The cases with each C library and the library as GCC builds it for speed, and with each archive."""
+    run("cmake", f"-DMEASURED_ARCHIVES={';'.join(map(str, archives))}", folder_of("gcc speed"))
+    run("cmake", "--build", folder_of("gcc speed"), "--target", "benchmarks")
+
+
+def build_by_meson(compiler):
+    folder = FOLDER / f"{compiler}-meson"
+    shutil.rmtree(folder, ignore_errors=True)
+    cross = FOLDER / f"{compiler}.ini"
+    cross.write_text(f"""[binaries]
+cpp = {COMPILERS[compiler]}
+ar = '{GNU}ar'
+[host_machine]
+system = 'none'
+cpu_family = 'arm'
+cpu = 'cortex-m4'
+endian = 'little'
+[properties]
+skip_sanity_check = true
+""")
+    run("meson", "setup", "--cross-file", cross, folder, ROOT)
+    run("ninja", "-C", folder)
+    return [folder / "libquvex.a"]
+
+
+def build_bare(compiler, flags, *sources):
+    """The files alone, or others in their place, copied into a project with these flags."""
+    folder = FOLDER / re.sub(r"\W+", "-", " ".join([compiler, flags, *(source.name for source in sources)]))
+    shutil.rmtree(folder, ignore_errors=True)
+    folder.mkdir(parents=True)
+    run(*COMPILERS[compiler], *([] if "-std" in flags else ["-std=c++17"]), *flags.split(), f"-I{ROOT}/include", "-c",
+        *(sources or ROOT.glob("src/*/*.cpp")), cwd=folder)
+    return list(folder.glob("*.o"))
+
+
+def doors():
+    """Each way to build the library, with the function of a compiler that does and gives what it made."""
+    def by_cmake(kind):
+        def door(compiler):
+            build(f"{compiler} {kind}")
+            return [folder_of(f"{compiler} {kind}") / "libquvex.a"]
+        return door
+
+    def by_flags(flags, *sources):
+        return lambda compiler: build_bare(compiler, flags, *sources)
+
+    def in_file(name):
+        flags = re.findall(r"(?<![\w-])-f[\w-]+", (ROOT / FILES[name]).read_text())
+        return " ".join(["-Os", "-ffunction-sections", *flags])
+
+    yield "CMake, `MinSizeRel`", by_cmake("size")
+    yield "CMake, `Release` (`-O3`)", by_cmake("release")
+    yield "CMake, `Release` with `-O2`", by_cmake("speed")
+    yield "CMake, `Release` with `-Os`", by_cmake("release-small")
+    yield "Meson", build_by_meson
+    for name in FILES:
+        yield f"{name}, flags of `{FILES[name]}`", by_flags(in_file(name))
+    yield f"files copied: `-Os {BARE}`", by_flags(f"-Os {BARE}")
+    amalgamated = FOLDER / "amalgamated"
+    run(ROOT / "scripts/amalgamate", amalgamated)
+    for name, flags in (("quvex.cpp", BARE), ("quvex.c", "-x c -std=c99 " + BARE)):
+        yield f"`{name}` of `scripts/amalgamate`, likewise", by_flags(f"-Os {flags}", amalgamated / name)
+    for level in ("-Os", "-Oz", "-O2", "-O3"):
+        yield f"files copied, make: `{level}`", by_flags(level)
+
+
+def through_doors():
+    """Each door, and for each compiler the bytes of code and constants, and of unwind tables."""
+    def weigh(door, compiler):
+        sizes = sum(map(sections, door(compiler)), collections.Counter())
+        tables = sum(size for name, size in sizes.items() if name.startswith(".ARM.ex"))
+        return sum(sizes.values()) - tables, tables
+
+    for name, door in doors():
+        yield name, in_parallel(weigh, [door] * len(COMPILERS), COMPILERS)
 
 
 def sections(path):
@@ -97,6 +195,23 @@ def stack_bytes(name):
     return {operation: deepest(operation) for operation in FIFTY}
 
 
+def application_bytes(compiler, level, linking):
+    """Flash of benchmarks/linked.cpp and what it needs: linked as "compiled", "optimized" or also "inlined"."""
+    folder = FOLDER / re.sub(r"\W+", "-", f"linked {compiler} {level} {linking}")
+    shutil.rmtree(folder, ignore_errors=True)
+    shutil.copytree(ROOT / "src", folder / "src")
+    for header in folder.glob("src/*.h") if linking == "inlined" else ():
+        header.write_text(re.sub(r"\bnoinline\b", "", header.read_text()))
+    flags = [level, *BARE.split()] + (["-flto"] if linking != "compiled" else [])
+    run(*COMPILERS[compiler], "-std=c++17", *flags, f"-I{ROOT}/include", "-c", ROOT / "benchmarks/linked.cpp",
+        *folder.glob("src/*/*.cpp"), cwd=folder)
+    link = [*COMPILERS[compiler], *flags, "-nostdlib", "-Wl,--gc-sections,-e,start"] if compiler == "gcc" else [
+        COMPILERS[compiler][0].replace("clang++", "ld.lld"), "--gc-sections", "-e", "start"]
+    run(*link, *folder.glob("*.o"), "-o", folder / "linked.elf")
+    sizes = sections(folder / "linked.elf")
+    return sum(size for name, size in sizes.items() if not name.startswith((".bss", ".ARM")))
+
+
 def library_archive(library):
     """The C library's archive for the core."""
     variant = run(GNU + "gcc", *CORE, "-print-multi-directory").strip()
@@ -108,7 +223,8 @@ def library_archive(library):
 def executed(name, library, *arguments):
     """{(case, function): {length: Measured}} of the cases' image with `library`, in the cases' order."""
     cases = collections.defaultdict(dict)
-    for row in count.count(folder_of(name) / f"benchmarks/cases-{library}", arguments):
+    image = f"cases-{library}" if name == "gcc speed" else f"cases-{folder_of(name).name}"
+    for row in count.count(folder_of("gcc speed") / "benchmarks" / image, arguments):
         case, function, length = row.name.split(" | ")
         cases[case, function][int(length)] = Measured(row.instructions, row.cycles)
     return dict(cases)
