@@ -36,11 +36,6 @@ extern "C" {
 
 char line[1000];
 
-void* memcpy(void* destination, const void* source, unsigned long count) {
-  for (unsigned long i = 0; i < count; ++i) static_cast<char*>(destination)[i] = static_cast<const char*>(source)[i];
-  return destination;
-}
-
 void board_write(char character) {
   if (end_of_output < output + sizeof output - 1) *end_of_output++ = character;
 }

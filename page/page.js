@@ -19,7 +19,7 @@ const paths = new Map();  // by the stack at a hook
 function currentPath() {
   const {stack} = new Error();
   if (!paths.has(stack)) {
-    const offsets = [...stack.matchAll(/wasm-function\[\d+\]:0x([0-9a-f]+)/g)].map(([, digits]) => parseInt(digits, 16));
+    const offsets = [...stack.matchAll(/wasm-function\[\d+\]:(0x[0-9a-f]+)/g)].map(([, offset]) => Number(offset));
     const frames = offsets.flatMap((offset) => data.sites[offset] || []).reverse();
     // What only forwards to an operation of the same name is no step of its own.
     paths.set(stack, frames.filter(({name}, i) => name !== frames[i + 1]?.name));
@@ -62,9 +62,8 @@ function makeCall(typed, rooms = {}) {
   for (const buffer of call.buffers) buffer.units = numbers(0, buffer.room).map((i) => peek(buffer, i));
   // From the highest address down: what an argument points to, with all that lies above it up to the next; then what
   // is the operation's own, which begins where its lowest access will have been.
-  const own = (name, known) => ({name, known, isOwn: true, base: Infinity, room: Infinity, aliases: ['its own']});
-  const isNull = call.arguments.find((each) => each.isNull);
-  const nothing = {name: isNull?.name, size: 1, base: 0, room: 0, known: 0, aliases: ['null']};
+  const own = (name, known) => ({name, known, isOwn: true, base: Infinity, room: Infinity, aliases: ['no argument']});
+  const nothing = {...call.arguments.find(({isNull}) => isNull), size: 1, base: 0, room: 0, known: 0, aliases: []};
   const regions = [...call.buffers.map((buffer) => [buffer.base, buffer]), [65536, own('constant', Infinity)],
     [1024, own('stack', 0)], [0, nothing]].sort((a, b) => b[0] - a[0]);
 
@@ -105,9 +104,9 @@ function makeCall(typed, rooms = {}) {
 }
 
 function place({buffers}, address) {
-  const buffer = buffers.find(({isText, base, size, most}) => isText && address >= base && address < base + size * most);
-  if (!address) return 'null';
-  return buffer ? `${buffer.name}+${(address - buffer.base) / buffer.size}` : 'a constant empty string';
+  const isIn = ({isText, base, size, most}) => isText && address >= base && address < base + size * most;
+  const {name, base, size} = buffers.find(isIn) || {};
+  return !address ? 'null' : name ? `${name}+${(address - base) / size}` : 'a constant empty string';
 }
 
 // ---- What a contract says ----
@@ -158,7 +157,8 @@ const spoken = (unit, buffer) => buffer.size === 4 ? glyph(unit, buffer) :
   `${isPrintable(unit) ? `'${String.fromCharCode(unit)}' ` : ''}0x${hex(unit, buffer.size)}`;
 
 // An argument's value as the console takes it.
-function valueOf({name, isTyped, isGiven, isNull, number, owner, offset, text, most}, i) {
+function valueOf(i) {
+  const {name, isTyped, isGiven, isNull, number, owner, offset, text, most} = typed.arguments[i];
   const quoted = (unit) => isPrintable(unit) ? (unit === 34 || unit === 92 ? '\\' : '') + String.fromCharCode(unit) :
     unit > 255 ? '\\u' + hex(unit, 2) : '\\x' + hex(unit, 1);
   if (isNull) return 'null';
@@ -184,7 +184,7 @@ function show(text, origin) {
   // A line that is no call yet leaves the last call in sight, unless it is another operation's.
   if (latest.verdict || typed.name !== call?.name) call = typed;
   if (before?.name !== typed.name || before.isWide !== typed.isWide) showOperation();
-  if (origin !== 'fields' && latest.verdict) inputs().forEach((field, i) => field.value = valueOf(typed.arguments[i], i));
+  if (origin !== 'fields' && latest.verdict) inputs().forEach((field, i) => field.value = valueOf(i));
   if (origin !== 'line') $('line').value = text;
   if (origin !== 'address') history.replaceState(null, '', address(text));
   [...$('width').children].forEach((link, i) => link.href = address(withRooms(lineOf(inputs(), i), rooms)));
@@ -208,9 +208,10 @@ function showOperation() {
   $('width').hidden = !links[1];
   [...$('width').children].forEach((link, i) => link.ariaCurrent = isWide === i ? 'true' : null);
   $('fields').innerHTML = typed.arguments.map(({name, isText, most}, i) => {
-    const isOptional = listed.includes(`[${name}]`), placeholder = !isOptional ? '' : most === 1 ? '0' : 'provided';
-    return `<label><span>${name} <small>${parameters[i][0].replaceAll('quvex_', '')}</small></span><input name="${name}"
-      ${isOptional ? '' : 'required'} size="${isText ? 16 : 11}" placeholder="${placeholder}" spellcheck="false"></label>`;
+    const isOptional = listed.includes(`[${name}]`), type = parameters[i][0].replaceAll('quvex_', '');
+    const more = isOptional ? `placeholder="${most === 1 ? '0' : 'provided'}"` : 'required';
+    return `<label><span>${name} <small>${type}</small></span>
+      <input name="${name}" size="${isText ? 16 : 11}" autocomplete="off" spellcheck="false" ${more}></label>`;
   }).join('');
   for (const item of $('list').querySelectorAll('a')) item.ariaCurrent = item.textContent === name ? 'page' : null;
   $('list').querySelector('[aria-current]').scrollIntoView({block: 'nearest'});
@@ -220,15 +221,15 @@ function showOperation() {
 }
 
 function showResult({verdict, message, fault, result, steps}) {
-  const {reason, step} = fault || {}, loads = steps.filter(({kind}) => kind === 'load').length;
-  const why = {null: 'is an access through null', overlap: 'writes what is to be read'}[reason] ||
-    `is beyond the room for ${step?.buffer.room}`;
-  const what = fault ? `<code>${step.kind} ${step.buffer.name}[${step.index}]</code> ${why}. <q>${marked(forbidding(call))}</q>` :
+  const loads = steps.filter(({kind}) => kind === 'load').length, {buffer, index, kind} = fault?.step || {};
+  const why = {null: 'is an access through null', overlap: 'writes what is to be read'}[fault?.reason] ||
+    `is beyond the room for ${buffer?.room}`;
+  const what = fault ? `<code>${kind} ${buffer.name}[${index}]</code> ${why}. <q>${marked(forbidding(call))}</q>` :
     `${escaped(message)} (no harm done this time)`;
   $('result').className = ['refused', 'fault', fault ? 'fault' : ''][verdict];
-  $('result').innerHTML = !verdict ? `<b>?</b> ${escaped(message)}` : verdict === 1 || fault ?
-    `<b>The caller\u2019s fault:</b> ${what}` : `returns <b>${result}</b>
-    <small>loads: ${loads}, stores: ${steps.length - loads}</small>`;
+  $('result').innerHTML = !verdict ? `<b>?</b> ${escaped(message)}` :
+    verdict === 1 || fault ? `<b>The caller\u2019s fault:</b> ${what}` :
+    `returns <b>${result}</b> <small>loads: ${loads}, stores: ${steps.length - loads}</small>`;
 }
 
 // The units of each buffer after so many accesses, and which were read and written until then.
@@ -245,27 +246,30 @@ function showMemory(current) {
     const cells = [...numbers(0, inside), ...outside].map((index) => {
       const read = touched.load.has(index), written = touched.store.has(index), isOutside = index >= room;
       const never = !isOutside && index >= known && !read && !written, isBlank = isOutside || never;
-      const is = Object.entries({outside: isOutside, never, read, written}).filter(([, yes]) => yes).map(([what]) => what);
+      const all = {outside: isOutside, never, read, written}, is = Object.keys(all).filter((what) => all[what]);
       const label = `${name}[${index}]: ${[...isBlank ? [] : [spoken(units[index], buffer)], ...is].join(', ')}`;
+      const isNow = current?.buffer === buffer && current.index === index;
       return `<button id="unit-${b}-${index}" class="cell ${is.join(' ')}" tabindex="${index && -1}"
-        aria-label="${escaped(label)}" ${current?.buffer === buffer && current.index === index ? 'aria-current="step"' : ''}>
-        <i>${index}</i><b>${isBlank ? '' : escaped(glyph(units[index], buffer))}</b>
-        <small>${isOutside || size === 4 || (isOwn && never) ? '' : hex(units[index], size)}</small></button>`;
+        aria-label="${escaped(label)}" ${isNow ? 'aria-current="step"' : ''}>
+        <i>${index}</i><b>${isBlank ? '' : escaped(glyph(units[index], buffer))}</b><small>${
+        isOutside || size === 4 || (isOwn && never) ? '' : hex(units[index], size)}</small></button>`;
     });
-    const {[name]: given, ...others} = rooms, fewer = withRooms(typed.line, {...rooms, [name]: Math.min(room, used) - 1});
-    const links = [[given !== undefined, withRooms(typed.line, others), 'room enough'], [used && room, fewer, 'one too few']];
-    return `<section class="buffer" aria-label="${name}"><h3>${name} <small>${[...aliases, `${touched.load.size} read,
-      ${touched.store.size} written`].join(', ')}</small>${most > 1 ? `<small class="room">room for ${room} ${links.map(
-      ([isOn, line, text]) => isOn ? ` <a href="${escaped(address(line))}">${text}</a>` : '').join('')}</small>` : ''}</h3>
+    const {[name]: _, ...others} = rooms, fewer = {...rooms, [name]: Math.min(room, used) - 1};
+    const link = (rooms, text) => ` <a href="${escaped(address(withRooms(typed.line, rooms)))}">${text}</a>`;
+    const links = (name in rooms ? link(others, 'room enough') : '') + (used && room ? link(fewer, 'one too few') : '');
+    const counts = [...aliases, `${touched.load.size} read`, `${touched.store.size} written`].join(', ');
+    return `<section class="buffer" aria-label="${name}"><h3>${name} <small>${counts}</small>
+      ${most > 1 ? `<small class="room">room for ${room} ${links}</small>` : ''}</h3>
       <div class="cells ${size === 4 && most > 1 ? 'broad' : ''}">${cells.join('')}
       <small>${room > inside && !outside.length ? `+${room - inside}` : ''}</small></div></section>`;
   }));
 }
 
 function showStep() {
-  const step = call.steps[now - 1], count = `${now} / ${call.steps.length}`, isFault = step && step === call.fault?.step;
-  const does = !step ? 'before the first access' : `${step.kind} ${step.buffer.name}[${step.index}] ${isFault ?
-    'leaves the contract' : `${step.kind === 'load' ? '\u2192' : '\u2190'} ${spoken(step.value, step.buffer)}`}`;
+  const step = call.steps[now - 1], {kind, buffer, index, value} = step || {}, count = `${now} / ${call.steps.length}`;
+  const isFault = step && step === call.fault?.step, then = kind === 'load' ? '\u2192' : '\u2190';
+  const does = !call.steps.length ? 'no memory is touched' : !step ? 'before the first access' :
+    `${kind} ${buffer.name}[${index}] ${isFault ? 'leaves the contract' : `${then} ${spoken(value, buffer)}`}`;
   $('step').innerHTML = `<b>${count}</b> ${escaped(does)}`;
   $('step').className = isFault ? 'fault' : '';
   $('slider').value = now;
@@ -290,50 +294,53 @@ function showPlot() {
     const path = (name, fits) => `<path class="${name}" d="${steps.filter(([step]) => fits(step)).map(([{index}, i]) =>
       `M${timeAt(i).toFixed(1)} ${top + 18 + unit * (index - lowest)}h${long}v${unit}h-${long}z`).join('')}"/>`;
     bands += `<text x="${margin}" y="${top + 13}">${buffer.name}</text><rect x="${margin}" y="${top + 18}"
-      width="${Math.max(0, width - 2 * margin)}" height="${unit * units}"/>` + path('read', ({kind}) => kind === 'load') +
-      path('written', ({kind}) => kind === 'store') + path('fault', (step) => step === fault?.step) + path('chosen', isChosen);
+      width="${Math.max(0, width - 2 * margin)}" height="${unit * units}"/>${path('read', ({kind}) => kind === 'load')}
+      ${path('written', ({kind}) => kind === 'store')}${path('fault', (step) => step === fault?.step)}
+      ${path('chosen', isChosen)}`;
     top += unit * units + 22;
   }
   $('plot').innerHTML = bands && `<svg width="${width}" height="${top}" role="img" aria-label="The ${call.steps.length}
     accesses over time, a band for each buffer">${bands}<path class="time" d="M0 0V${top}"/></svg>`;
 }
 
-// The line that makes the access, in the innermost call or the one that is chosen, and how many accesses each line makes.
+// The line that makes the access, in the innermost call or the one that is chosen, and how many each line makes.
 function showSource(step) {
   const path = step?.path || [], at = depth in path ? depth : path.length - 1, count = {};
   const {link} = operations.get(call.name).links[0];
   const home = Object.keys(data.sources).find((name) => /cpp$/.test(name) && data.sources[name].includes(`${link}(`));
   const [file, number] = path[at]?.key.split(':') || [home, 0], lines = data.sources[file].trimEnd().split('\n');
-  for (const each of call.steps) for (const key of new Set(each.path.map(({key}) => key))) count[key] = (count[key] || 0) + 1;
+  for (const {path} of call.steps) for (const {key} of path) count[key] = (count[key] || 0) + 1;
   $('file').textContent = step && !path.length ? 'this browser does not tell the line' : file;
-  $('path').innerHTML = path.map(({name, key}, i) => `<button id="path-${i}" data-depth="${i}" aria-pressed="${i === at}">
-    ${name} <small>${key.split(':')[1]}</small></button>`).join(' \u203a ');
+  $('path').innerHTML = path.map(({name, key}, i) => `<button id="path-${i}" data-depth="${i}"
+    aria-pressed="${i === at}">${name} <small>${key.split(':')[1]}</small></button>`).join(' \u203a ');
   patch($('source'), lines.map((text, i) => {
     const key = `${file}:${i + 1}`, tag = count[key] ? 'button' : 'div';
     const more = count[key] ? `id="${key}" data-key="${key}" aria-pressed="${key === chosen}"` : '';
     return `<${tag} class="row ${i + 1 === Number(number) ? 'now' : ''}" ${more}><small>${i + 1}</small>
       <code>${escaped(text)}</code><small>${count[key] ? `\u00d7${count[key]}` : ''}</small></${tag}>`;
   }));
-  const list = $('source'), line = number || 1 + lines.findIndex((text) => text.includes(` ${call.name}(`));
+  const list = $('source'), line = number || 1 + lines.findIndex((text) => text.includes(`${link}(`));
   const top = list.children[Math.max(line - 1, 0)].offsetTop - list.scrollTop;
   if (top < 30 || top > list.clientHeight - 50) list.scrollTop += top - list.clientHeight / 3;
 }
 
 function showContract() {
-  const {contract, family} = operations.get(call.name), broken = call.fault && forbidding(call);
+  const {contract, family} = operations.get(call.name), general = data.families[family];
+  const broken = call.fault && forbidding(call);
   const part = (title, text) => title + sentences(text).map((each) => `<p>${each.map((sentence) =>
     sentence === broken ? `<mark>${marked(sentence)}</mark>` : marked(sentence)).join(' ')}</p>`).join('');
-  const rule = data.conventions.find((text) => sentences(text).flat().includes(broken)), general = data.families[family];
+  const rule = data.conventions.find((text) => sentences(text).flat().includes(broken));
   $('contract').innerHTML = part('', contract) + (general && part(`<h3>${family}</h3>`, general)) +
-    (rule ? part('<h3>All operations</h3>', rule) : '') +
-    `<details><summary>What holds for all operations</summary>${data.conventions.map((each) => part('', each)).join('')}</details>`;
+    (rule ? part('<h3>All operations</h3>', rule) : '') + `<details><summary>What holds for all operations</summary>${
+    data.conventions.map((each) => part('', each)).join('')}</details>`;
 }
 
 function showTry() {
-  const verdicts = operations.get(call.name).examples.map((line) => [line, makeCall(line).verdict]);
-  const list = (title, wanted) => verdicts.some(([, verdict]) => verdict === wanted) ? `${title}<ul>${verdicts.map(
-    ([line, verdict]) => verdict === wanted ? `<li><a href="${escaped(address(line))}">${escaped(line)}</a>` : '').join('')}</ul>` : '';
-  $('try').innerHTML = list('', 2) + list('<h3>Outside the contract</h3>', 1);
+  const items = ['', '', ''];
+  for (const line of operations.get(call.name).examples) {
+    items[makeCall(line).verdict] += `<li><a href="${escaped(address(line))}">${escaped(line)}</a>`;
+  }
+  $('try').innerHTML = `<ul>${items[2]}</ul>` + (items[1] && `<h3>Outside the contract</h3><ul>${items[1]}</ul>`);
 }
 
 // ---- Hands ----
@@ -375,8 +382,7 @@ $('slider').oninput = () => go(Number($('slider').value));
 $('plot').onclick = ({offsetX}) => go(Math.ceil((offsetX - margin) / (timeAt(1) - timeAt(0))));
 $('line').oninput = () => show($('line').value, 'line');
 $('fields').oninput = () => show(withRooms(lineOf(inputs()), rooms), 'fields');
-$('fields').onsubmit = (event) => event.preventDefault();
-$('copy').onclick = () => { navigator.clipboard?.writeText(typed.line); $('line').select(); };
+$('take').onclick = () => { navigator.clipboard?.writeText(typed.line); $('line').select(); };
 $('menu').onclick = () => { $('menu').ariaExpanded = String(document.body.classList.toggle('menu')); };
 
 addEventListener('click', ({target}) => {
