@@ -175,7 +175,7 @@ void print(uint32_t number) {
 
 extern "C" void measured(Operation* operation, const uint32_t* arguments);
 
-// Not inlined, and the result stored behind the call, so that the call returns here.
+// Not inlined, and the result stored after the call, so that the call returns here.
 __attribute__((noinline)) void measured(Operation* operation, const uint32_t* arguments) {
   result = operation(arguments[0], arguments[1], arguments[2], arguments[3]);
 }

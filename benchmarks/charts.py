@@ -1,4 +1,4 @@
-"""The charts of docs/measurements.md: a row an operation, a dot a library, on a scale of ratios."""
+"""The charts of docs/measurements.md: a row for each operation, a dot for each library, on a scale of ratios."""
 import matplotlib
 
 matplotlib.use("svg")

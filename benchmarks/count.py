@@ -13,7 +13,7 @@ The emulator knows no pipeline: the cycles are a model, from the published instr
 that never waits. They are good for comparing two pieces of code, and are never seconds.
 
     data processing, multiply, compare, IT           1
-    load                                             2, or 1 right behind a load or store that does not produce its
+    load                                             2, or 1 right after a load or store that does not produce its
                                                      address; in an IT block charged as if executed
     store                                            1
     load or store of n registers                     1 + n, and 2 more to load the program counter

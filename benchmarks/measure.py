@@ -13,9 +13,9 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 FOLDER = ROOT / "build/report"
 HEADER = (ROOT / "include/quvex.h").read_text()
 OPERATION = r"QUVEX_\d{6}"
-FIFTY = re.findall(rf"\b({OPERATION})\(", HEADER)
+LINK_NAMES = re.findall(rf"\b({OPERATION})\(", HEADER)
 # The unit of an operation is that of its first string: tables show it in this column.
-WIDE = {name for name in FIFTY if re.search(rf"\b{name}\([^)q]*quvex_wide", HEADER)}
+WIDE = {name for name in LINK_NAMES if re.search(rf"\b{name}\([^)q]*quvex_wide", HEADER)}
 
 GNU = "arm-none-eabi-"
 CORE = ["-mcpu=cortex-m4", "-mthumb", "-mfloat-abi=soft"]
@@ -158,7 +158,7 @@ def sections(path):
 def code_bytes(name):
     """Bytes of each operation's section, literals included, of the constants, and of anything else."""
     sizes = sections(folder_of(name) / "libquvex.a")
-    bytes_of = {operation: sizes.pop(f".text.{operation}") for operation in FIFTY}
+    bytes_of = {operation: sizes.pop(f".text.{operation}") for operation in LINK_NAMES}
     bytes_of["constants"] = sum(size for section, size in sizes.items() if section.startswith(".rodata"))
     bytes_of["other"] = sum(sizes.values()) - bytes_of["constants"]
     return bytes_of
@@ -192,7 +192,7 @@ def stack_bytes(name):
         return max([own[operation]] + [deepest(callee) + (own[operation] if stacked else 0)
                                        for callee, stacked in calls[operation]])
 
-    return {operation: deepest(operation) for operation in FIFTY}
+    return {operation: deepest(operation) for operation in LINK_NAMES}
 
 
 def application_bytes(compiler, level, linking):

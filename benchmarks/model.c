@@ -8,9 +8,9 @@ FUNCTION loads(void) {
   __asm__(
       "mov r0, sp\n\t"
       "str r0, [r0, #-4]\n\t"
-      "ldr r1, [r0, #-4]\n\t" /* behind a store: 1 */
+      "ldr r1, [r0, #-4]\n\t" /* after a store: 1 */
       "ldr r2, [r1, #-4]\n\t" /* of an address just loaded: 2 */
-      "ldr r3, [r0, #-4]\n\t" /* behind a load: 1 */
+      "ldr r3, [r0, #-4]\n\t" /* after a load: 1 */
       "add r3, r3\n\t"
       "ldr r3, [r0, #-4]\n\t" /* 2 */
       "bx lr");

@@ -55,12 +55,12 @@ class Figures:
     def label(self, operation):
         """Its readable name; with the width, where the operation has a twin."""
         name = self.names[operation]
-        twins = [other for other in measure.FIFTY if self.names[other] == name]
+        twins = [other for other in measure.LINK_NAMES if self.names[other] == name]
         return name if len(twins) == 1 else f"{name}, {'wide' if operation in measure.WIDE else 'narrow'}"
 
     def in_order(self):
-        """The fifty, a line of the table of cases after the other."""
-        return sorted(measure.FIFTY, key=list(self.names).index)
+        """The link names in the order of the table of cases."""
+        return sorted(measure.LINK_NAMES, key=list(self.names).index)
 
     def rows(self):
         """Each case with its narrow, wide and library function, None where there is none."""
@@ -92,7 +92,7 @@ def formula(lengths, kind):
 
 
 def table(heads, rows):
-    """Markdown behind an empty line; every column but the first is right-aligned."""
+    """Markdown after an empty line; every column but the first is right-aligned."""
     lines = ["", "| " + " | ".join(heads) + " |", "|---|" + "---:|" * (len(heads) - 1)]
     return "\n".join(lines + ["| " + " | ".join(str(cell) for cell in row) + " |" for row in rows]) + "\n"
 
@@ -183,7 +183,7 @@ Builds for size are CMake's `MinSizeRel`, builds for speed its `Release` with `-
     stacks = [figures.stack[build].values() for build in measure.BUILDS]
     versions = [measure.version(compiler) for compiler in measure.COMPILERS]
     yield table(["", *(f"{kind}: {version}" for kind in ("size", "speed") for version in versions)], [
-        ["All fifty, constants included: bytes of flash", *(f"{figures.total(build):,}" for build in measure.BUILDS)],
+        ["All operations, constants included: bytes of flash", *(f"{figures.total(build):,}" for build in measure.BUILDS)],
         ["Data, zeroed memory, unwind tables: bytes", *(figures.bytes[build]["other"] for build in measure.BUILDS)],
         ["Deepest stack, calls included: bytes", *(max(each) for each in stacks)],
         ["Median of the operations' stacks: bytes", *(f"{statistics.median(each):g}" for each in stacks)],
@@ -195,10 +195,10 @@ The mean is the geometric mean of all the calls that are listed below, of both w
 
 ![Modelled cycles for each unit beside other libraries](speed.svg)
 
-## Flash through every door
+## Flash by build system
 
-Bytes of all fifty with their constants, as each way of building brings them into a project, and behind a plus those of
-unwind tables (`.ARM.exidx`). Of Zephyr, PlatformIO and ESP-IDF these are the flags that the library's files for them
+Bytes of all operations with their constants, as each build system compiles them, and after a plus those of unwind
+tables (`.ARM.exidx`). Of Zephyr, PlatformIO and ESP-IDF these are the flags that the library's files for them
 give, after `-Os -ffunction-sections`, which their own builds set.
 """
     yield table(["built by", *versions], [

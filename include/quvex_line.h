@@ -8,7 +8,7 @@
     - `read_hexadecimal(text, most)`: likewise, of hexadecimal digits after an optional `0x`, up to 32 bits, unsigned.
     - `next_field(line, cursor, set)`: the next field of a writable line, terminated in place, or null when there are no
       more. Any character of `set` ends a field, so that two in a row leave an empty one between them, and one at the
-      end an empty one behind it. Between quotes it ends none. Quotes are taken out; two in a row between quotes stand
+      end an empty one after it. Between quotes it ends none. Quotes are taken out; two in a row between quotes stand
       for one. The caller starts the cursor at 0 and leaves it alone. In C++ also
       `for (char* field : fields(line, set))`.
     - `text<Size>` in C++, `quvex_text` in C, begun with `quvex_text_in(array)` or `quvex_text_at(pointer, size)`:

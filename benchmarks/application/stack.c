@@ -1,4 +1,4 @@
-/* Linked into an image, with --wrap=board_exit, to tell the deepest stack behind its output. */
+/* Linked into an image, with --wrap=board_exit, to print the deepest stack after its output. */
 #include <stdint.h>
 
 #include "board.h"

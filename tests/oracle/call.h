@@ -52,7 +52,7 @@ struct Call {
   Text text[destination];
   Placing placing;  // Of the destination, array or cursor; apart if there is none.
   int at[strings];  // Where in its slot each begins.
-  int shift;        // How far behind its source a destination in place begins.
+  int shift;        // How far after its source a destination in place begins.
   int32_t n, m;
 };
 

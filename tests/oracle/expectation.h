@@ -30,7 +30,7 @@ inline Text up_to(Text text, int64_t limit) { return text.substr(0, size_t(std::
 inline int64_t length_of(Text text) { return int64_t(text.size()); }
 constexpr int64_t unbounded = room;
 
-// What a call must leave behind and what it may touch, told by the standard library: one function a family.
+// What a call must leave behind and what it may touch, told by the standard library: a function for each family.
 struct Expectation {
   State& state;  // At first what memory holds before the call.
   Units readable[slots], writable[slots];
@@ -309,7 +309,7 @@ struct Expectation {
     read(first, c.n);
   }
 
-  // What lies behind its source repeats it.
+  // What lies after its source repeats it.
   void copy_units() {
     if (!a.data() || c.placing == Placing::null || c.n <= 0) return;
     const auto count = size_t(c.n);

@@ -33,7 +33,7 @@ inline std::u16string alphabet_of(const Family& family, bool wide) {
   return alphabet;
 }
 
-// One unit repeated, with at most one other at the front, in the middle or at the end; and the two in turns.
+// One unit repeated, with at most one other at the front, in the middle or at the end; and the two alternating.
 template <class Visit>
 void each_run(Text alphabet, int length, Visit visit) {
   std::u16string run(size_t(length), alphabet.front());
