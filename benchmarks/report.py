@@ -163,8 +163,8 @@ def figures_block(figures):
     return f"""All fifty operations take **{size:,} bytes** of flash with their constants when GCC builds them for size for
 a Cortex-M4 (clang 14: {clang_14:,}, clang 19: {clang_19:,}), {speed:,} when built for speed, and {ram}. The deepest
 stack is {max(stack)} bytes, calls included; half of them need {statistics.median(stack):g} or less.
-[Bytes, stack, instructions and cycles of every operation](docs/measurements.md), with each compiler and through every
-door, beside those of newlib and picolibc.
+[Bytes, stack, instructions and cycles of every operation](docs/measurements.md), for each compiler and build
+system, beside those of newlib and picolibc.
 """
 
 
