@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
-"""What Doxygen reads for a public header: quvex.h with a heading, the cost and an example for each operation.
+"""What Doxygen reads for a public header: quvex.h with a heading, the cost and an example for each operation; of the
+headers of readable names the introduction and each call as a caller writes it, with a link to its operation.
 
-Doxygen calls it with the header's name; the header itself stays plain text. Of the two headers of readable names, only
-the introduction is passed on: their operations stand with those of quvex.h.
+    docs/filter.py HEADER          called by Doxygen; the header itself stays plain text
+    docs/filter.py --operations    the page that lists them all
 """
 import json
 import pathlib
@@ -13,6 +14,7 @@ import sys
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 COMMENT = r"(?:(?!\*/).)*?"
 LIST = json.loads(subprocess.check_output([ROOT / "scripts/operations", "--json"]))
+SUMMARIES = {each["name"]: each["summary"] for each in LIST}
 ARGUMENTS = {each["name"]: ", ".join(name for _, name in each["links"][0]["parameters"]) for each in LIST}
 EXAMPLES = dict(re.findall(r"^## (\w+)\n\n(.*?)(?=^## |\Z)", (ROOT / "docs/examples.md").read_text(), re.M | re.S))
 
@@ -72,11 +74,77 @@ def section(match):
             f"{paragraphs(match[2] or '')}\n\n{links}\n@{{ */\n{match[3]}/** @}} */\n")
 
 
+def calls():
+    """Result, name and parameters of each call in quvex.hpp, as often as it has forms."""
+    text = (ROOT / "include/quvex.hpp").read_text().split("// ---- Length and copy ----")[1]
+    for result, name, parameters in re.findall(r"^QUVEX_FORWARD ([^()]*?) ?(\w+)\(([^{}]*?)\) noexcept \{", text,
+                                               re.M | re.S):
+        if not parameters.startswith("null ") and "null_type" not in parameters:  # forms of the same call
+            names = [each.split()[-1] for each in re.sub(r"<[^()]*?>", "", parameters).split(",")]
+            yield "pointer" if "pointer" in result or "*" in result else result, name, ", ".join(names)
+
+
+def macros(header):
+    """Name and parameters of each call in C."""
+    text = (ROOT / "include" / header).read_text()
+    for name, parameters in re.findall(r"^#define (quvex_\w+|QUVEX_(?:ESCAPE|WIDEN)(?:_SIZED)?)\(([a-z, ]+)\)", text, re.M):
+        yield name.lower().removesuffix("_sized"), parameters
+
+
+def described(name):
+    """What a call of the readable names does, and where its contract stands."""
+    operation = next(each for each in sorted(SUMMARIES, key=len, reverse=True) if name.startswith(each))
+    more = {"": "", "_bounded": ", with a size", "_unbounded": ", bounded by nothing"}[name.removeprefix(operation)]
+    return f"/** @ref operation_{operation} \"{operation}\": {SUMMARIES[operation]}{more}. */"
+
+
+def layer(header):
+    """A header of readable names: its introduction, then its calls in the order of the operations."""
+    text = re.match(r"/\*\*.*?\*/", (ROOT / "include" / header).read_text(), re.S)[0]
+    if header == "quvex.hpp":
+        print(text, "namespace quvex {", sep="\n")
+        for result, name, parameters in calls():
+            print(described(name), f"{result} {name}({parameters});", sep="\n")
+        print("}")
+    elif header == "quvex_names.h":
+        print(text)
+        results = {name: result for result, name, _ in calls()}
+        for name, parameters in macros(header):
+            plain = name.removeprefix("quvex_")
+            print(described(plain), f"{results[plain]} {name}({parameters});", sep="\n")
+    elif header == "quvex_line.h":
+        entry = r"    - `(\w+)\(([a-z, ]+)\)`: (.*?)(?=    - `|\*/)"
+        entries = re.findall(entry, text, re.S)
+        print(re.sub(entry, "", text, flags=re.S))
+        for name, parameters, what in entries:
+            comment = f"/** {(what[0].upper() + what[1:]).strip()} */"
+            result = "pointer" if name == "next_field" else name.removeprefix("read_")
+            print(f"namespace quvex {{\n{comment}\n{result} {name}({parameters});\n}}", comment,
+                  f"{result} quvex_{name}({parameters});", sep="\n")
+        for name, parameters in macros(header):
+            if name.removeprefix("quvex_") not in [each[0] for each in entries]:
+                result = "void" if name.startswith("quvex_add") else "quvex_text"
+                print(f"/** Part of a text of fixed capacity. */\n{result} {name}({parameters});")
+
+
+def operations():
+    """All operations by family, as a page of Markdown."""
+    print("# Operations {#operations}\n\nThe [conventions](@ref quvex.h) hold for all of them: units, terminator, null, sizes,"
+          " overlap. Each is `quvex::name` in C++ and `quvex_name` in C; below stand the link names, narrow first.\n")
+    for family in dict.fromkeys(each["family"] for each in LIST):
+        print(f"## {family}\n\n| operation | what it does |\n|---|---|")
+        for each in (each for each in LIST if each["family"] == family):
+            links = " ".join(link["link"] for link in each["links"])
+            print(f"| @ref operation_{each['name']} \"{each['name']}\" <small>{links}</small> | {each['summary']} |")
+        print()
+
+
 def main(name):
-    text = pathlib.Path(name).read_text()
+    if name == "--operations":
+        return operations()
     if pathlib.Path(name).name != "quvex.h":
-        print(re.match(r"/\*\*.*?\*/", text, re.S)[0])
-        return
+        return layer(pathlib.Path(name).name)
+    text = pathlib.Path(name).read_text()
     text = re.sub(rf"/\*\* ({COMMENT}) ?\*/\n((?:QUVEX_NOTHROW [^;]*;\n)+)", operation, text, flags=re.S)
     text = re.sub(rf"/\* ---- ({COMMENT}) ----(?:\n\n({COMMENT}))? ?\*/\n(.*?)(?=/\* ----|#ifdef __cplusplus\n\}})", section,
                   text, flags=re.S)
