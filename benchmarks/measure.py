@@ -164,6 +164,15 @@ def code_bytes(name):
     return bytes_of
 
 
+def composed_bytes(compiler, level):
+    """Bytes of what the headers compose, narrow and wide, by name: without the operations that it calls."""
+    source = ROOT / "benchmarks/composed.c"
+    (made,) = build_bare(compiler, f"-x c -std=c11 {level} {BARE}", source)
+    sizes = sections(made)
+    return {name: [sizes[f".text.quvex_{name}_{width}"] for width in ("narrow", "wide")]
+            for name in re.findall(r"^KEEP\((\w+)\)", source.read_text(), re.M)}
+
+
 def linked_bytes(archive, symbol):
     """Bytes of code and of data that `symbol` and all that it refers to add to an image."""
     image = FOLDER / "linked.elf"

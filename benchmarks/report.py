@@ -224,6 +224,11 @@ Bytes of the operation's section, literals included; bytes of the deepest stack,
              *(figures.stack[build][operation] for build in GCC)] for operation in order]
     rows.append(["constants", *(figures.bytes[build]["constants"] for build in measure.BUILDS), "–", "–"])
     yield table(["operation", *measure.BUILDS, *("stack: " + build for build in GCC)], rows)
+    yield """
+What no operation bounds, and what `quvex_line.h` adds, is composed of operations in the headers: bytes of each where it
+is a function of its own, compiled with `-Os`, without the operations, or others of this table, that it calls.
+"""
+    yield composed()
     yield f"""
 ## Flash beside other libraries
 
@@ -263,6 +268,14 @@ On 7 units. A wide operation has a row where the call costs it otherwise.
     yield table(["case", "speed: narrow", "wide", "size: narrow", "wide"], [
         [f"`{case}`", *(formula(figures.runs[build, "newlib"].get((case, function)), "instructions")
                         for build in GCC[::-1] for function in functions[:2])] for case, functions in figures.rows()])
+
+
+def composed():
+    """The table of what the headers compose, by each compiler for size."""
+    bytes_of = [measure.composed_bytes(compiler, "-Os") for compiler in measure.COMPILERS]
+    return table(["composed", *(f"{measure.version(compiler)}, {width}" for compiler in measure.COMPILERS
+                                for width in ("narrow", "wide"))],
+                 [[f"`{name}`", *(size for each in bytes_of for size in each[name])] for name in bytes_of[0]])
 
 
 def cycles_table(figures, shown, differing):
