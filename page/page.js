@@ -52,7 +52,7 @@ function makeCall(typed, rooms = {}) {
   call.arguments.forEach((argument, i) => {
     const {name, size, isNull, owner, isTyped, length, most} = argument;
     if (!size || isNull || owner !== i) return;
-    // What is forbidden shows where it happens: behind the string, and not in the markers after it.
+    // A forbidden access shows where it happens: just after the string, and not in the markers that follow it.
     const room = isTyped && call.verdict === 1 ? length + 1 : most;
     const aliases = call.arguments.filter((each) => each !== argument && each.size && !each.isNull && each.owner === i)
       .map((each) => `${each.name} = ${name}${each.offset ? `+${each.offset}` : ''}`);
@@ -343,7 +343,7 @@ function showTry() {
   $('try').innerHTML = `<ul>${items[2]}</ul>` + (items[1] && `<h3>Outside the contract</h3><ul>${items[1]}</ul>`);
 }
 
-// ---- Hands ----
+// ---- Mouse and keyboard ----
 
 function stop() {
   clearInterval(timer);
