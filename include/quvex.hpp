@@ -478,9 +478,11 @@ template <class String, class Array>
 QUVEX_FORWARD int32_t split(String&& string, reading<String> set, Array&& array) noexcept {
   static_assert(detail::has_room<Array>,
                 "quvex: a pointer does not tell how many slots it has: write split_bounded(string, set, array, slots)");
-  static_assert(detail::is_same<detail::type_of<Array>, pointer<String>>,
+  constexpr bool is_fixed = detail::is_const<detail::type_of<String>>;
+  static_assert(!is_fixed, "quvex: text that is written to cannot be const");
+  static_assert(is_fixed || detail::is_same<detail::type_of<Array>, pointer<String>>,
                 "quvex: the array of split holds pointers to the characters of its text");
-  if constexpr (!detail::is_same<detail::type_of<Array>, pointer<String>>) {
+  if constexpr (is_fixed || !detail::is_same<detail::type_of<Array>, pointer<String>>) {
     return 0;
     // A slot for every token that the text's own array can hold: nothing to bound.
   } else if constexpr (detail::size_of<String> != 0 && detail::size_of<Array> >= detail::size_of<String> / 2) {

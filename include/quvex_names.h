@@ -72,7 +72,9 @@
   QUVEX_UNLESS(QUVEX_KIND(text) == 8 && !QUVEX_IS_NULL(text), \
                "void* is no text: cast it to what it points to, or write NULL")
 #define QUVEX_WRITES(text) \
-  QUVEX_READS(text) QUVEX_UNLESS(QUVEX_KIND(text) & 4, "text that is written to cannot be const")
+  QUVEX_READS(text) \
+  QUVEX_UNLESS((QUVEX_KIND(text) & 4) || (QUVEX_IS_ARRAY(text) && __builtin_constant_p(text)), \
+               "text that is written to cannot be const")
 #define QUVEX_ALIKE(kinds) QUVEX_UNLESS(((kinds) & 3) == 3, "narrow and wide text do not mix")
 #define QUVEX_HAS_ROOM(destination, instead) \
   QUVEX_UNLESS(!QUVEX_IS_ARRAY(destination), "a pointer does not tell how much it holds: write " instead)
