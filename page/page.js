@@ -300,7 +300,9 @@ function showPlot() {
     top += unit * units + 22;
   }
   $('plot').innerHTML = bands && `<svg width="${width}" height="${top}" role="img" aria-label="The ${call.steps.length}
-    accesses over time, a band for each buffer">${bands}<path class="time" d="M0 0V${top}"/></svg>`;
+    accesses over time, a band for each buffer">${bands}
+    <path class="time" transform="translate(${timeAt(now)})" d="M0 0V${top}"/></svg>`;
+  $('plot').plotted = width;
 }
 
 // The line that makes the access, in the innermost call or the one that is chosen, and how many each line makes.
@@ -425,4 +427,4 @@ $('list').innerHTML = Object.keys(data.families).map((title) => `<section><h3>${
     <a href="${escaped(address(examples[0]))}">${name}</a>`).join('')}</ul></section>`).join('');
 addEventListener('hashchange', open);
 open();
-new ResizeObserver(() => { showPlot(); showStep(); }).observe($('plot'));
+new ResizeObserver(([{contentRect: {width}}]) => { if (width !== $('plot').plotted) showPlot(); }).observe($('plot'));
