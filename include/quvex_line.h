@@ -91,10 +91,10 @@ class fields {
 
    private:
     fields* range_;
-    Char* field_;
+    Char* field_ = nullptr;
   };
   iterator begin() noexcept { return iterator(this); }
-  detail::null_type end() const noexcept { return nullptr; }
+  static detail::null_type end() noexcept { return nullptr; }
 
  private:
   Char* line_;
@@ -181,8 +181,8 @@ QUVEX_COMPOSED quvex_hexadecimal QUVEX_TWIN_OF(quvex_read_digits_narrow, quvex_r
                                                                                                  uint32_t most) {
   quvex_hexadecimal number = {0, 0};
   for (;; ++number.length) {
-    const uint32_t unit = QUVEX_CAST(uint32_t, QUVEX_002026(text[number.length]));
-    const uint32_t digit = unit - '0' < 10 ? unit - '0' : unit - 'a' < 26 ? unit - 'a' + 10 : radix;
+    const uint32_t lower = QUVEX_CAST(uint32_t, QUVEX_002026(text[number.length]));
+    const uint32_t digit = lower - '0' < 10 ? lower - '0' : lower - 'a' < 26 ? lower - 'a' + 10 : radix;
     if (digit >= radix) return number;
     if (digit > most || number.value > (most - digit) / radix) break;
     number.value = number.value * radix + digit;
