@@ -1,6 +1,6 @@
 #include "quvex.h"
 
-#include "../leaf.h"
+#include "../quvex_compiler.h"
 
 namespace {
 
@@ -15,8 +15,11 @@ template <class Unit>
 QUVEX_INLINE void append_at_most(Unit* end, const Unit* source, int32_t room) {
   QUVEX_UNROLL(4)
   for (; room > 0; --room) {
-    if (!*source) break;
-    *end++ = *source++;
+    const Unit unit = *source;
+    ++source;
+    if (QUVEX_UNLIKELY(!unit)) break;
+    *end = unit;
+    ++end;
   }
   *end = 0;
 }
@@ -26,17 +29,12 @@ QUVEX_INLINE void append(Unit* destination, const Unit* source) {
   if (!destination || !source) return;
   Unit* end = end_of(destination);
   QUVEX_UNROLL(4)
-  while (*source) *end++ = *source++;
+  while (*source) {
+    *end = *source;
+    ++source;
+    ++end;
+  }
   *end = 0;
-}
-
-template <class Unit>
-QUVEX_INLINE void append_bounded(Unit* destination, int32_t size, const Unit* source) {
-  if (!destination || !source) return;
-  Unit* end = end_of(destination);
-  const int32_t used = static_cast<int32_t>(end - destination) + 1;
-  if (size <= used) return;
-  append_at_most(end, source, size - used);
 }
 
 QUVEX_INLINE void append_counted(quvex_wide* destination, const quvex_wide* source, int32_t count) {
@@ -44,32 +42,32 @@ QUVEX_INLINE void append_counted(quvex_wide* destination, const quvex_wide* sour
   append_at_most(end_of(destination), source, count);
 }
 
-QUVEX_INLINE void append_bounded_counted(quvex_wide* destination, int32_t size, const quvex_wide* source,
-                                         int32_t count) {
+template <class Unit>
+QUVEX_INLINE void append_bounded(Unit* destination, int32_t size, const Unit* source, int32_t count = INT32_MAX) {
   if (!destination || !source) return;
-  quvex_wide* end = end_of(destination);
-  const int32_t used = static_cast<int32_t>(end - destination) + 1;
+  Unit* end = end_of(destination);
+  const intptr_t used = end - destination + 1;  // On a 64-bit host, more than 32 bits for the longest string.
   if (size <= used) return;
-  const int32_t room = size - used;
+  const int32_t room = size - static_cast<int32_t>(used);
   append_at_most(end, source, room < count ? room : count);
 }
 
 }  // namespace
 
-void QUVEX_002005(quvex_narrow* destination, const quvex_narrow* source) { append(destination, source); }
-void QUVEX_002030(quvex_wide* destination, const quvex_wide* source) { append(destination, source); }
+QUVEX_EXPORT void QUVEX_002005(quvex_narrow* destination, const quvex_narrow* source) { append(destination, source); }
+QUVEX_EXPORT void QUVEX_002030(quvex_wide* destination, const quvex_wide* source) { append(destination, source); }
 
-void QUVEX_002006(quvex_narrow* destination, int32_t size, const quvex_narrow* source) {
+QUVEX_EXPORT void QUVEX_002006(quvex_narrow* destination, int32_t size, const quvex_narrow* source) {
   append_bounded(destination, size, source);
 }
-void QUVEX_002031(quvex_wide* destination, int32_t size, const quvex_wide* source) {
+QUVEX_EXPORT void QUVEX_002031(quvex_wide* destination, int32_t size, const quvex_wide* source) {
   append_bounded(destination, size, source);
 }
 
-void QUVEX_002041(quvex_wide* destination, const quvex_wide* source, int32_t count) {
+QUVEX_EXPORT void QUVEX_002041(quvex_wide* destination, const quvex_wide* source, int32_t count) {
   append_counted(destination, source, count);
 }
 
-void QUVEX_002042(quvex_wide* destination, int32_t size, const quvex_wide* source, int32_t count) {
-  append_bounded_counted(destination, size, source, count);
+QUVEX_EXPORT void QUVEX_002042(quvex_wide* destination, int32_t size, const quvex_wide* source, int32_t count) {
+  append_bounded(destination, size, source, count);
 }

@@ -1,6 +1,6 @@
 #include "quvex.h"
 
-#include "../leaf.h"
+#include "../quvex_compiler.h"
 
 namespace {
 
@@ -9,7 +9,11 @@ QUVEX_INLINE void copy(Unit* destination, const Unit* source) {
   if (!destination || destination == source) return;
   if (source) {
     QUVEX_UNROLL(4)
-    while (*source) *destination++ = *source++;
+    while (*source) {
+      *destination = *source;
+      ++source;
+      ++destination;
+    }
   }
   *destination = 0;
 }
@@ -20,9 +24,12 @@ QUVEX_INLINE void copy_bounded(Unit* destination, int32_t size, const Unit* sour
   if (size <= 0) return;
   if (source) {
     QUVEX_UNROLL(4)
-    for (; size > 1; --size) {
-      if (!*source) break;
-      *destination++ = *source++;
+    for (--size; size > 0; --size) {
+      const Unit unit = *source;
+      ++source;
+      if (QUVEX_UNLIKELY(!unit)) break;
+      *destination = unit;
+      ++destination;
     }
   }
   *destination = 0;
@@ -35,27 +42,29 @@ QUVEX_INLINE void copy_counted(Unit* destination, const Unit* source, int32_t co
   if (!source) return;
   QUVEX_UNROLL(4)
   for (; count > 0; --count) {
-    const Unit unit = *source++;
-    *destination++ = unit;
-    if (!unit) break;
+    const Unit unit = *source;
+    ++source;
+    *destination = unit;
+    ++destination;
+    if (QUVEX_UNLIKELY(!unit)) break;
   }
 }
 
 }  // namespace
 
-void QUVEX_002009(quvex_narrow* destination, const quvex_narrow* source) { copy(destination, source); }
-void QUVEX_002034(quvex_wide* destination, const quvex_wide* source) { copy(destination, source); }
+QUVEX_EXPORT void QUVEX_002009(quvex_narrow* destination, const quvex_narrow* source) { copy(destination, source); }
+QUVEX_EXPORT void QUVEX_002034(quvex_wide* destination, const quvex_wide* source) { copy(destination, source); }
 
-void QUVEX_002010(quvex_narrow* destination, int32_t size, const quvex_narrow* source) {
+QUVEX_EXPORT void QUVEX_002010(quvex_narrow* destination, int32_t size, const quvex_narrow* source) {
   copy_bounded(destination, size, source);
 }
-void QUVEX_002035(quvex_wide* destination, int32_t size, const quvex_wide* source) {
+QUVEX_EXPORT void QUVEX_002035(quvex_wide* destination, int32_t size, const quvex_wide* source) {
   copy_bounded(destination, size, source);
 }
 
-void QUVEX_002017(quvex_narrow* destination, const quvex_narrow* source, int32_t count) {
+QUVEX_EXPORT void QUVEX_002017(quvex_narrow* destination, const quvex_narrow* source, int32_t count) {
   copy_counted(destination, source, count);
 }
-void QUVEX_002044(quvex_wide* destination, const quvex_wide* source, int32_t count) {
+QUVEX_EXPORT void QUVEX_002044(quvex_wide* destination, const quvex_wide* source, int32_t count) {
   copy_counted(destination, source, count);
 }

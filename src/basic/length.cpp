@@ -1,6 +1,6 @@
 #include "quvex.h"
 
-#include "../leaf.h"
+#include "../quvex_compiler.h"
 
 namespace {
 
@@ -15,5 +15,5 @@ QUVEX_INLINE int32_t length(const Unit* string) {
 
 }  // namespace
 
-int32_t QUVEX_002014(const quvex_narrow* string) { return length(string); }
-int32_t QUVEX_002039(const quvex_wide* string) { return length(string); }
+QUVEX_EXPORT int32_t QUVEX_002014(const quvex_narrow* string) { return length(string); }
+QUVEX_EXPORT int32_t QUVEX_002039(const quvex_wide* string) { return length(string); }

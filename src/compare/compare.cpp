@@ -1,6 +1,6 @@
 #include "quvex.h"
 
-#include "../fold.h"
+#include "../quvex_fold.h"
 
 namespace {
 
@@ -13,12 +13,14 @@ QUVEX_INLINE int32_t compare(const Unit* first, const Unit* second, int32_t coun
   if (!second) return 1;
   if (bound == counted && count <= 0) return 0;
   const Unit* start = first;
+  uintptr_t left = bound == counted ? static_cast<uint32_t>(count) : QUVEX_MOST(Unit);
   QUVEX_UNROLL(4)
-  for (uintptr_t turns = bound == counted ? static_cast<uint32_t>(count) : QUVEX_TURNS(Unit); turns;
-       turns -= bound == counted ? 1 : QUVEX_SPEED) {
-    uint32_t a = *first++;
-    uint32_t b = *second++;
-    if (__builtin_expect(a != b, 0)) {  // equal units go straight on
+  for (; QUVEX_ENDLESS(bound == whole) || left; --left) {
+    uint32_t a = *first;
+    ++first;
+    uint32_t b = *second;
+    ++second;
+    if (QUVEX_UNLIKELY(a != b)) {
       a = folded<Fold>(a);
       b = folded<Fold>(b);
       if (!Fold || a != b) return static_cast<int32_t>(a > b ? first - start : start - first);
@@ -30,26 +32,30 @@ QUVEX_INLINE int32_t compare(const Unit* first, const Unit* second, int32_t coun
 
 }  // namespace
 
-int32_t QUVEX_002008(const quvex_narrow* first, const quvex_narrow* second) {
+QUVEX_EXPORT int32_t QUVEX_002008(const quvex_narrow* first, const quvex_narrow* second) {
   return compare<false, whole>(first, second);
 }
-int32_t QUVEX_002033(const quvex_wide* first, const quvex_wide* second) { return compare<false, whole>(first, second); }
-
-int32_t QUVEX_002016(const quvex_narrow* first, const quvex_narrow* second, int32_t count) {
-  return compare<false, counted>(first, second, count);
-}
-int32_t QUVEX_002043(const quvex_wide* first, const quvex_wide* second, int32_t count) {
-  return compare<false, counted>(first, second, count);
+QUVEX_EXPORT int32_t QUVEX_002033(const quvex_wide* first, const quvex_wide* second) {
+  return compare<false, whole>(first, second);
 }
 
-int32_t QUVEX_002012(const quvex_narrow* first, const quvex_narrow* second) {
+QUVEX_EXPORT int32_t QUVEX_002016(const quvex_narrow* first, const quvex_narrow* second, int32_t count) {
+  return compare<false, counted>(first, second, count);
+}
+QUVEX_EXPORT int32_t QUVEX_002043(const quvex_wide* first, const quvex_wide* second, int32_t count) {
+  return compare<false, counted>(first, second, count);
+}
+
+QUVEX_EXPORT int32_t QUVEX_002012(const quvex_narrow* first, const quvex_narrow* second) {
   return compare<true, whole>(first, second);
 }
-int32_t QUVEX_002037(const quvex_wide* first, const quvex_wide* second) { return compare<true, whole>(first, second); }
+QUVEX_EXPORT int32_t QUVEX_002037(const quvex_wide* first, const quvex_wide* second) {
+  return compare<true, whole>(first, second);
+}
 
-int32_t QUVEX_002019(const quvex_narrow* first, const quvex_narrow* second, int32_t count) {
+QUVEX_EXPORT int32_t QUVEX_002019(const quvex_narrow* first, const quvex_narrow* second, int32_t count) {
   return compare<true, counted>(first, second, count);
 }
-int32_t QUVEX_002046(const quvex_wide* first, const quvex_wide* second, int32_t count) {
+QUVEX_EXPORT int32_t QUVEX_002046(const quvex_wide* first, const quvex_wide* second, int32_t count) {
   return compare<true, counted>(first, second, count);
 }

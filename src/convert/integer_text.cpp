@@ -1,6 +1,6 @@
 #include "quvex.h"
 
-#include "../leaf.h"
+#include "../quvex_compiler.h"
 
 namespace {
 
@@ -9,25 +9,39 @@ QUVEX_INLINE Unit* to_text(int32_t value, Unit* destination, int32_t radix) {
   if (!destination) return nullptr;
   Unit* end = destination;
   if (radix > 1 || (radix == 1 && !value)) {
-    const uint32_t base = static_cast<uint32_t>(radix);
-    const bool negative = value < 0;
     uint32_t magnitude = static_cast<uint32_t>(value);
-    if (negative) magnitude = 0 - magnitude;  // Negated as unsigned: the least integer has no positive twin.
-    while (true) {
-      uint32_t digit = magnitude % base;
-      if (digit > 9) digit += 'a' - '0' - 10;
-      *end++ = static_cast<Unit>('0' + digit);
-      if (magnitude < base) break;
-      magnitude /= base;
+    if (value < 0) {
+      magnitude = 0 - magnitude;  // Negated as unsigned: the least integer has no positive twin.
+      *end = '-';
+      ++end;
     }
-    if (negative) *end++ = '-';
+    const uint32_t base = static_cast<uint32_t>(radix);
+    Unit* first = end;
+    do {
+#if (defined(__arm__) && !defined(__ARM_FEATURE_IDIV)) || (defined(__riscv) && !defined(__riscv_div))
+      uint32_t digit = 0;  // Without a divide instruction, a division would call the compiler's library.
+      for (int32_t bits = 32; bits; --bits) {
+        digit = digit << 1 | magnitude >> 31;
+        magnitude <<= 1;
+        if (digit < base) continue;
+        digit -= base;
+        ++magnitude;
+      }
+#else
+      uint32_t digit = magnitude % base;
+      magnitude /= base;
+#endif
+      if (digit > 9) digit += 'a' - '0' - 10;
+      *end = static_cast<Unit>('0' + digit);
+      ++end;
+    } while (magnitude);
+    for (Unit* last = end; first < --last; ++first) {
+      const Unit unit = *last;
+      *last = *first;
+      *first = unit;
+    }
   }
   *end = 0;
-  for (Unit* first = destination; first < end; ++first) {
-    const Unit unit = *--end;
-    *end = *first;
-    *first = unit;
-  }
   return destination;
 }
 
@@ -45,12 +59,12 @@ QUVEX_INLINE int32_t to_integer(const Unit* source) {
 
 }  // namespace
 
-quvex_narrow* QUVEX_002003(int32_t value, quvex_narrow* destination, int32_t radix) {
+QUVEX_EXPORT quvex_narrow* QUVEX_002003(int32_t value, quvex_narrow* destination, int32_t radix) {
   return to_text(value, destination, radix);
 }
-quvex_wide* QUVEX_002004(int32_t value, quvex_wide* destination, int32_t radix) {
+QUVEX_EXPORT quvex_wide* QUVEX_002004(int32_t value, quvex_wide* destination, int32_t radix) {
   return to_text(value, destination, radix);
 }
 
-int32_t QUVEX_002000(const quvex_narrow* source) { return to_integer(source); }
-int32_t QUVEX_002053(const quvex_wide* source) { return to_integer(source); }
+QUVEX_EXPORT int32_t QUVEX_002000(const quvex_narrow* source) { return to_integer(source); }
+QUVEX_EXPORT int32_t QUVEX_002053(const quvex_wide* source) { return to_integer(source); }

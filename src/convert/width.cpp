@@ -1,43 +1,46 @@
 #include "quvex.h"
 
-#include "../leaf.h"
+#include "../quvex_compiler.h"
 
 namespace {
 
 const quvex_narrow empty[] = "";
 const quvex_narrow escape_opening[] = "&(0x";
 
+QUVEX_INLINE quvex_narrow* write_digits(uint32_t number, quvex_narrow* end) {
+  do {
+    uint32_t digit = number & 15;
+    if (digit > 9) digit += 'a' - '0' - 10;
+    *--end = static_cast<quvex_narrow>('0' + digit);
+    number >>= 4;
+  } while (number);
+  return end;
+}
+
 QUVEX_INLINE const quvex_narrow* escape(const quvex_wide* source, quvex_narrow* destination, int32_t size) {
   if (!destination) return empty;
   quvex_narrow* end = destination;
-  if (source) {
-    while (true) {
-      uint32_t unit = *source++;
-      if (unit - ' ' <= '~' - ' ') {
-        if (size <= 1) break;
-        --size;
-        *end++ = static_cast<quvex_narrow>(unit);
-        continue;
-      }
+  while (source && size > 1) {
+    const uint32_t unit = *source;
+    ++source;
+    if (unit - ' ' <= '~' - ' ') {
+      *end = static_cast<quvex_narrow>(unit);
+      ++end;
+      --size;
+    } else {
       // cppcheck-suppress knownConditionTrueFalse  // it does not see that 0 less a blank is a great number
       if (!unit) break;
-      quvex_narrow closing[4 + 2];  // Up to 4 digits in front of it.
-      quvex_narrow* digits = closing + 4;
-      digits[0] = ')';
-      digits[1] = 0;
-      do {
-        uint32_t digit = unit & 15;
-        if (digit > 9) digit += 'a' - '0' - 10;
-        *--digits = static_cast<quvex_narrow>('0' + digit);
-        unit >>= 4;
-      } while (unit);
-      const int32_t length = static_cast<int32_t>(closing + 4 - digits) + 5;
+      QUVEX_UNINITIALIZED quvex_narrow closing[4 + 2];  // Up to 4 digits, `)` and the terminator.
+      closing[4] = ')';
+      closing[5] = 0;
+      const quvex_narrow* digits = write_digits(unit, closing + 4);
+      const int32_t length = 9 - static_cast<int32_t>(digits - closing);
       if (size <= length) break;
-      size -= length;
       *end = 0;
       QUVEX_002005(end, escape_opening);
-      QUVEX_002005(end, digits);
+      QUVEX_002005(end + 4, digits);
       end += length;
+      size -= length;
     }
   }
   *end = 0;
@@ -50,8 +53,11 @@ QUVEX_INLINE quvex_wide* widen(const quvex_narrow* source, quvex_wide* destinati
   if (source) {
     QUVEX_UNROLL(4)
     for (; size > 1; --size) {
-      if (!*source) break;
-      *end++ = *source++;
+      const quvex_wide unit = *source;
+      ++source;
+      if (QUVEX_UNLIKELY(!unit)) break;
+      *end = unit;
+      ++end;
     }
   }
   *end = 0;
@@ -87,18 +93,18 @@ QUVEX_INLINE void copy_units(const quvex_wide* source, quvex_wide* destination, 
 
 }  // namespace
 
-const quvex_narrow* QUVEX_002029(const quvex_wide* source, quvex_narrow* destination, int32_t size) {
+QUVEX_EXPORT const quvex_narrow* QUVEX_002029(const quvex_wide* source, quvex_narrow* destination, int32_t size) {
   return escape(source, destination, size);
 }
 
-quvex_wide* QUVEX_002001(const quvex_narrow* source, quvex_wide* destination, int32_t size) {
+QUVEX_EXPORT quvex_wide* QUVEX_002001(const quvex_narrow* source, quvex_wide* destination, int32_t size) {
   return widen(source, destination, size);
 }
 
-void QUVEX_002002(const quvex_narrow* source, quvex_wide* destination, int32_t count) {
+QUVEX_EXPORT void QUVEX_002002(const quvex_narrow* source, quvex_wide* destination, int32_t count) {
   widen_units(source, destination, count);
 }
 
-void QUVEX_002028(const quvex_wide* source, quvex_wide* destination, int32_t count) {
+QUVEX_EXPORT void QUVEX_002028(const quvex_wide* source, quvex_wide* destination, int32_t count) {
   copy_units(source, destination, count);
 }

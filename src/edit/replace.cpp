@@ -1,6 +1,6 @@
 #include "quvex.h"
 
-#include "../exported.h"
+#include "../quvex_exported.h"
 
 namespace {
 
@@ -16,24 +16,21 @@ QUVEX_INLINE int32_t replace(const Unit* source, const Unit* pattern, const Unit
       exported::copy_counted(destination + result, source, segment);
       exported::copy(destination + result + segment, replacement);
     }
-    result += segment + replacement_length;
     source += segment + pattern_length;
+    result += segment + replacement_length;
   }
-  if (destination) {
-    destination += result;
-    exported::copy(destination, source);
-    source = destination;
-  }
-  return result + exported::length(source);
+  const int32_t rest = exported::length(source);
+  if (destination) exported::copy(destination + result, source);
+  return result + rest;
 }
 
 }  // namespace
 
-int32_t QUVEX_002020(const quvex_narrow* source, const quvex_narrow* pattern, const quvex_narrow* replacement,
-                     quvex_narrow* destination) {
+QUVEX_EXPORT int32_t QUVEX_002020(const quvex_narrow* source, const quvex_narrow* pattern,
+                                  const quvex_narrow* replacement, quvex_narrow* destination) {
   return replace(source, pattern, replacement, destination);
 }
-int32_t QUVEX_002047(const quvex_wide* source, const quvex_wide* pattern, const quvex_wide* replacement,
-                     quvex_wide* destination) {
+QUVEX_EXPORT int32_t QUVEX_002047(const quvex_wide* source, const quvex_wide* pattern, const quvex_wide* replacement,
+                                  quvex_wide* destination) {
   return replace(source, pattern, replacement, destination);
 }

@@ -1,7 +1,7 @@
 #include "quvex.h"
 
-#include "../exported.h"
-#include "set.h"
+#include "../quvex_exported.h"
+#include "quvex_set.h"
 
 namespace {
 
@@ -20,5 +20,5 @@ QUVEX_INLINE int32_t trim(Unit* string, const Unit* set) {
 
 }  // namespace
 
-int32_t QUVEX_002024(quvex_narrow* string, const quvex_narrow* set) { return trim(string, set); }
-int32_t QUVEX_002051(quvex_wide* string, const quvex_wide* set) { return trim(string, set); }
+QUVEX_EXPORT int32_t QUVEX_002024(quvex_narrow* string, const quvex_narrow* set) { return trim(string, set); }
+QUVEX_EXPORT int32_t QUVEX_002051(quvex_wide* string, const quvex_wide* set) { return trim(string, set); }

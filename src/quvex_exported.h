@@ -3,7 +3,7 @@
 
 #include "quvex.h"
 
-#include "leaf.h"
+#include "quvex_compiler.h"
 
 // The exported operations that others are composed of, by name and width.
 namespace exported {

@@ -1,11 +1,11 @@
 #ifndef QUVEX_SRC_EDIT_SET_H
 #define QUVEX_SRC_EDIT_SET_H
 
-#include "../leaf.h"
+#include "../quvex_compiler.h"
 
 // Zero is in no set: the set ends where it would be found.
 template <class Unit>
-QUVEX_INLINE bool is_member(const Unit* set, Unit unit) {
+QUVEX_INLINE bool is_member(const Unit* set, uint32_t unit) {
   for (; *set; ++set) {
     if (*set == unit) return true;
   }
