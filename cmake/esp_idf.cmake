@@ -3,6 +3,4 @@ idf_component_register(
   SRC_DIRS src/basic src/compare src/convert src/edit
   INCLUDE_DIRS include)
 target_compile_options(${COMPONENT_LIB} PRIVATE
-  -ffreestanding -ffunction-sections -fdata-sections -fno-exceptions -fno-unwind-tables -fno-asynchronous-unwind-tables
-  -fno-lto               # see library_flags.cmake
-  -fno-stack-protector)  # a canary would call __stack_chk_fail
+  -ffunction-sections -fdata-sections -fno-exceptions -fno-unwind-tables -fno-asynchronous-unwind-tables)  # see library_flags.cmake
