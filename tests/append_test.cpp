@@ -13,6 +13,8 @@ TYPED_TEST(Append, FollowsTheTextWithinASize) {
   row(u"abc", 3, u""_u, nullptr);
   row(u"ab", 3, u""_u, nullptr);
   row(u"ab", 4, u"cd"_u, u"abc");
+  row(u"ab", 9, u"0123456789"_u, u"ab012345");
+  row(u"ab", greatest - 1, u"", u"ab");
   row(u"a\x100", greatest, u"\x200\xFFFF", u"a\x100\x200\xFFFF");
 }
 
@@ -26,4 +28,9 @@ TEST(AppendCounted, FollowsTheTextWithinACountAndASize) {
   row(u"ab", greatest, u"cd"_u, 1, u"abc");
   row(u"ab", 3, u""_u, 1, nullptr);
   row(u"ab", 4, u"cd"_u, 9, u"abc");
+  row(u"ab", 9, u"cde"_u, 2, u"abcd");
+  row(nullptr, 9, u""_u, 1, nullptr);
+  row(u""_u, 9, nullptr, 1, nullptr);
+  row(u"ab", 9, u""_u, least, u"ab");
+  row(u"ab", greatest, u"cde", 9, u"abcde");
 }

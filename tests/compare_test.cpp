@@ -27,6 +27,11 @@ TYPED_TEST(Compare, TellsTheOrderAndThePlaceWithinACount) {
   row(u"\x80"_u, u"\x7F"_u, greatest, 1, 1);
   row(u"\u0100b"_u, u"\u0100a"_u, greatest, 2, 2);
   row(u"\x161"_u, u"\x141"_u, greatest, 1, 1);
+  row(u"\x8000"_u, u"\x7FFF"_u, greatest, 1, 1);
+  row(u"\xE0"_u, u"\xC0"_u, greatest, 1, 1);
+  row(u"[Z@"_u, u"[z`"_u, greatest, -2, -3);
   row(u""_u, u""_u, 0, 0, 0);
+  row(u""_u, nullptr, 0, 1, 1);
   row(u"AB"_u, u"ab"_u, 2, -1, 0);
+  row(run, run + u"b", 300, 0, 0);
 }

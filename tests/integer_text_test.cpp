@@ -14,6 +14,7 @@ TYPED_TEST(IntegerText, WritesDigitsInAnyRadix) {
   row(least, 10, u"-2147483648");
   row(least, 2, u"-1" + std::u16string(31, u'0'));
   row(35 * 36 + 9, 36, u"z9");
+  row(-70001, 70000, sizeof(TypeParam) == 1 ? Text(u"-11") : Text(u"-11"));
   row(0x1234, greatest, sizeof(TypeParam) == 1 ? Text(u"\x8B") : Text(u"\x128B"));
 }
 
@@ -26,6 +27,8 @@ TYPED_TEST(IntegerText, ReadsDecimalText) {
   row(nullptr, 0);
   row(u"\t -45x"_u, -45);
   row(u"90/"_u, 90);
+  row(u" +5", 0);
+  row(u"- 5", 0);
   row(u"\n1", 0);
   row(u"-2147483649", greatest);
   row(u"99999999999", 1215752191);

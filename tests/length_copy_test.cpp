@@ -22,10 +22,13 @@ TYPED_TEST(Copy, StopsAtTheTerminatorOrTheBound) {
     Op<TypeParam>::copy_bounded(source, bound, source);
     Op<TypeParam>::copy_counted(counted, source, bound);
     Op<TypeParam>::copy_counted(source, source, bound);
+    Op<TypeParam>::copy_bounded(nullptr, bound, source);
+    Op<TypeParam>::copy_counted(nullptr, source, bound);
     if (bound < greatest) return;
     Guarded<TypeParam> whole(fresh, within_size);
     Op<TypeParam>::copy(whole, source);
     Op<TypeParam>::copy(source, source);
+    Op<TypeParam>::copy(nullptr, source);
   });
   row(nullptr, greatest, u"", u"");
   row(u""_u, 0, nullptr, u"");

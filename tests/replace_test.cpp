@@ -9,6 +9,11 @@ TYPED_TEST(Replace, WritesTheResultAndTellsItsLength) {
     EXPECT_EQ(Op<TypeParam>::replace(source, pattern, replacement, destination), length);
   });
   row(u""_u, nullptr, u""_u, 0, nullptr);
+  row(nullptr, u""_u, u""_u, 0, nullptr);
+  row(u""_u, u"-"_u, nullptr, 0, nullptr);
+  row(u""_u, u"", u""_u, 0, nullptr);
+  row(u"", u"-", u"+", 0, u"");
+  row(u"Aa-ab", u"a", u"XYZ", 9, u"AXYZ-XYZb");
   row(u"-a--b", u"-", u"XY", 8, u"XYaXYXYb");
   row(u"aaaaa", u"aa", u"b", 3, u"bba");
   row(u"\x100\x200\x100", u"\x200", u"\x300\xFFFF", 4, u"\x100\x300\xFFFF\x100");

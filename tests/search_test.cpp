@@ -27,6 +27,10 @@ TYPED_TEST(Search, FindsTheLeftmostOccurrence) {
   row(u"aaabab"_u, u"aab", 1, 1);
   row(u"xxab", u"abc"_u, -1, -1);
   row(u"x[AbZ", u"{aBz", -1, -1);
+  row(u"A[", u"a{", -1, -1);
+  row(u"\xC0\xE0", u"\xE0", 1, 1);
+  row(u"abcdefghiabcdefghijk", u"abcdefghij", 9, 9);
+  row(u"aaAaaAaaaB", u"aaab", -1, 6);
   row(u"xAbZ", u"aBz", -1, 1);
   row(u"\x141\x100\x161\x200", u"\x161\x200", 2, 2);
   row(std::u16string(300, u'x') + u"y", u"y", 300, 300);

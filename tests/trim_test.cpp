@@ -11,5 +11,7 @@ TYPED_TEST(Trim, StripsASetFromBothEnds) {
   row(u"\t ab c  ", u" \t", 4, u"ab c\0c\0 ");
   row(u"   ", u" ", 0, u"\0  ");
   row(u" a ", nullptr, 3, u" a ");
+  row(u"jaA", u"bcdefghijka", 1, u"A\0A");
+  row(u"", u" ", 0, u"");
   row(u"\x120\x100 \x120", u"\x200\x120", 2, u"\x100 \0\0");
 }

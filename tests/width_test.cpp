@@ -7,6 +7,7 @@ TEST(Escape, WritesPrintableAsciiInWholePieces) {
     Guarded<quvex_narrow> destination(fresh, after);
     EXPECT_EQ(Wide::escape(source, destination, size), destination);
     EXPECT_EQ(*Wide::escape(source, nullptr, size), 0);
+    EXPECT_EQ(Wide::escape(source, nullptr, size), Wide::escape(nullptr, nullptr, 0));
   });
   row(nullptr, 40, u"");
   row(u"A"_u, 1, u"");
@@ -21,6 +22,7 @@ TEST(Widen, KeepsTheNumberOfEachUnitWithinASize) {
     Guarded<quvex_narrow> source(text);
     Guarded<quvex_wide> destination(fresh, after);
     EXPECT_EQ(Wide::widen(source, destination, size), destination);
+    EXPECT_EQ(Wide::widen(source, nullptr, size), nullptr);
   });
   row(nullptr, 9, u"");
   row(u""_u, 0, u"");
@@ -51,6 +53,8 @@ TEST(CopyUnits, RunsForwardThroughAnOverlap) {
   });
   row(u"123456789"_u, 0, 2, 7, u"121212121"_u);
   row(u"123456789"_u, 0, 3, 6, u"123123123"_u);
+  row(u"0123456789abcdefgh"_u, 0, 6, 12, u"012345012345012345"_u);
+  row(u"0123456789abcdef"_u, 9, 0, 7, u"9abcdef789abcdef"_u);
   row(u"9123456"_u, 1, 0, 5, u"1234556"_u);
   row(u"981234567"_u, 2, 0, 6, u"123456567"_u);
 }

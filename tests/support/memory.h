@@ -14,6 +14,6 @@ uint8_t* protect_page(int page, Access access);  // Returns its start.
 enum class Side { start, end };
 inline Side side_under_test;
 inline int used_pages;
-inline int row_number;
+inline int row_line;
 
 #endif

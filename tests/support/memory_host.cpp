@@ -11,7 +11,7 @@ namespace {
 
 void report(int) {
   const auto test = testing::UnitTest::GetInstance()->current_test_info();
-  std::printf("%s.%s: row %d faults out of bounds\n", test->test_suite_name(), test->name(), row_number);
+  std::printf("%s:%d: %s.%s: this row faults\n", test->file(), row_line, test->test_suite_name(), test->name());
   std::fflush(stdout);
   _exit(1);
 }

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr int closed_pages = pages + 1, areas = 8;
+constexpr int closed_pages = pages + 1, areas = 7;
 alignas(page_size) uint8_t memory[closed_pages + pages][page_size];
 
 void close_pages_between() {
@@ -13,7 +13,8 @@ void close_pages_between() {
 
 }  // namespace
 
-// Of the unit's eight areas five are the closed pages between. The last page gets none, and can always be written.
+// Of the unit's eight areas five are the closed pages between, and one lies at null. The last two pages get none, and
+// can always be written.
 uint8_t* protect_page(int page, Access access) {
   static const bool once = (close_pages_between(), true);
   static_cast<void>(once);

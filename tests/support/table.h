@@ -41,9 +41,9 @@ bool fits(const Text& text) {
 
 template <class Unit, class... Cells>
 auto rows_of(std::function<void(Cells...)> body) {
-  row_number = 0;
-  return [=](Cells... cells) {
-    SCOPED_TRACE("row " + std::to_string(++row_number));
+  return [=](Cells... cells, const char* file = __builtin_FILE(), int line = __builtin_LINE()) {
+    const testing::ScopedTrace trace(file, line, "this row");
+    row_line = line;
     for (Side side : {Side::start, Side::end}) {
       side_under_test = side;
       if ((fits<Unit>(cells) && ...)) body(cells...);
