@@ -21,8 +21,9 @@
 #define QUVEX_UNROLL(iterations) QUVEX_PRAGMA(GCC unroll iterations)
 #endif
 
-// As many units as half of the address space holds, and so any string, for a loop that ends in its body. GCC unrolls a
-// loop of several exits only if it can count the iterations; for size the count would cost a test: the loop is endless.
+// For a loop that is left from its body: an iteration count that no string reaches, half of the address space in units.
+// GCC unrolls a loop of several exits only if it can count the iterations. For size the loop is endless: a count would
+// cost a test.
 #define QUVEX_MOST(Unit) ((UINTPTR_MAX / 2 + 1) / sizeof(Unit))
 #define QUVEX_ENDLESS(unbounded) (!QUVEX_SPEED && (unbounded))
 
@@ -62,20 +63,20 @@
 #define QUVEX_EXPORT QUVEX_NO_CANARY __attribute__((no_icf))
 #pragma GCC diagnostic ignored "-Wpragmas"                // an option that this GCC does not know is not missed
 #pragma GCC optimize("no-tree-loop-distribute-patterns")  // a loop must not become a call of memcpy, memset or strlen
-#pragma GCC optimize("no-shrink-wrap")  // one way in and out is smaller than a second past the saved registers
+#pragma GCC optimize("no-shrink-wrap")  // one way in and out is smaller than a second one that saves no registers
 #ifdef __OPTIMIZE_SIZE__
-// Each of these makes copies of code, or of values in registers that must be saved for them.
-#pragma GCC optimize("no-ivopts")                     // a pointer for each use of an index
-#pragma GCC optimize("no-thread-jumps")               // a test's code once for each way that leads to it
+// Each of these passes duplicates code, or keeps values in registers that must be saved for them.
+#pragma GCC optimize("no-ivopts")                     // keeps a pointer for each use of an index
+#pragma GCC optimize("no-thread-jumps")               // copies a test for each path that leads to it
 #pragma GCC optimize("no-cse-follow-jumps")           // keeps a constant live instead of reloading it
-#pragma GCC optimize("no-tree-coalesce-vars")         // joins what then needs a saved register
-#pragma GCC optimize("no-ssa-phiopt")                 // two branches made one expression, in wider instructions
+#pragma GCC optimize("no-tree-coalesce-vars")         // joins variables that then need a saved register
+#pragma GCC optimize("no-ssa-phiopt")                 // turns two branches into an expression of wider instructions
 #pragma GCC optimize("no-tree-tail-merge")            // merges before it is known to be smaller; a later pass knows
 #pragma GCC optimize("reorder-blocks-algorithm=stc")  // the order of the source needs more jumps
 #else
 #pragma GCC optimize("no-split-ivs-in-unroller")  // an offset for each iteration costs an addition at each exit
-#pragma GCC optimize("no-tree-pre")               // the next iteration's values ahead of time: a copy in each iteration
-#pragma GCC optimize("no-tree-loop-im")           // keeps a constant in a register that is saved for it
+#pragma GCC optimize("no-tree-pre")               // computes the next iteration early: a copy in each
+#pragma GCC optimize("no-tree-loop-im")           // keeps a constant in a register that must then be saved
 #pragma GCC optimize("no-schedule-insns")         // likewise
 #endif
 

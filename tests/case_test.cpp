@@ -2,7 +2,7 @@
 
 TWIN_SUITE(Case);
 
-// Null where nothing changes: nothing is stored, not even what is there already.
+// Null: nothing changes, and nothing is stored, not even the value that is there already.
 TYPED_TEST(Case, MapsTheLettersOfTheOtherCase) {
   const auto row = rows<TypeParam>([](Text string, Text lower, Text upper) {
     Guarded<TypeParam> lowered(string, lower), raised(string, upper);

@@ -4,7 +4,7 @@ TWIN_SUITE(Compare);
 
 const std::u16string run(300, u'a');
 
-// The greatest count is none. A string against itself is never read, readable or not.
+// The greatest count acts as no bound. A string against itself is never read, readable or not.
 TYPED_TEST(Compare, TellsTheOrderAndThePlaceWithinACount) {
   const auto row = rows<TypeParam>([](Text one, Text other, int32_t count, int32_t order, int32_t folded_order) {
     Guarded<TypeParam> first(one), second(other);

@@ -2,7 +2,7 @@
 
 TWIN_SUITE(Tokenize);
 
-// `rest` is the string from the cursor on: what lies before it cannot be read.
+// `rest` is the string from the cursor on: what lies before it is not accessible.
 TYPED_TEST(Tokenize, ReturnsTheNextTokenAndMovesTheCursor) {
   const auto row =
       rows<TypeParam>([](Text rest, uint32_t cursor, Text delimiters, int token, uint32_t next, Text after) {

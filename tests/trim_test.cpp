@@ -2,7 +2,7 @@
 
 TWIN_SUITE(Trim);
 
-// What lies behind the new terminator is stated too: it keeps its value.
+// What lies after the new terminator is stated too: it keeps its value.
 TYPED_TEST(Trim, StripsASetFromBothEnds) {
   const auto row = rows<TypeParam>([](Text text, Text stripped, int32_t length, Text after) {
     Guarded<TypeParam> string(text, after), set(stripped);

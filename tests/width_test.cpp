@@ -1,6 +1,6 @@
 #include "support/table.h"
 
-// A source without a terminator shows that nothing behind a piece that does not fit is read.
+// A source without a terminator shows that nothing after a piece that does not fit is read.
 TEST(Escape, WritesPrintableAsciiInWholePieces) {
   const auto row = rows<quvex_wide>([](Text text, int32_t size, Text after) {
     Guarded<quvex_wide> source(text);
@@ -45,7 +45,7 @@ TEST(CopyUnits, TakesExactlyACountZerosIncluded) {
   row(u"\x100\0\xFFFF"_u, 3, u"\x100\0\xFFFF"_u);
 }
 
-// An odd number of units stands at an even word at one side, and at an odd one at the other.
+// On one side an odd number of units begins at a multiple of 4, on the other it does not.
 TEST(CopyUnits, RunsForwardThroughAnOverlap) {
   const auto row = rows<quvex_wide>([](Text before, int from, int to, int32_t count, Text after) {
     Guarded<quvex_wide> buffer(before, after);

@@ -76,7 +76,7 @@ QUVEX_INLINE uintptr_t address(const void* pointer) { return reinterpret_cast<ui
 
 QUVEX_INLINE void copy_units(const quvex_wide* source, quvex_wide* destination, int32_t count) {
   if (!source || !destination) return;
-  // Words, where both stand alike: what overlaps then overlaps by whole words, and comes out as it would unit by unit.
+  // Words, if both are aligned alike: they then overlap by whole words, and the result is that of a copy unit by unit.
   if (QUVEX_SPEED && (address(source) ^ address(destination)) % sizeof(two_units) == 0) {
     for (; count > 0 && address(source) % sizeof(two_units); --count) *destination++ = *source++;
     QUVEX_UNROLL(8)

@@ -166,7 +166,7 @@ void run(int longest) {
   for (const Family& family : families) {
     for (const bool wide : {false, true}) {
       each_call_of_strings(family, wide, 0, longest);
-      // Behind a prefix of seven, so that unrolled loops complete a full iteration.
+      // After a prefix of seven, so that unrolled loops complete a full iteration.
       if (family.longest[first] != unused) each_call_of_strings(family, wide, 7, longest - 2);
       if (family.longest[first] != unused) each_call_of_runs(family, wide, longest > 5);
       each_call_of_pairs(family, wide, longest > 5);

@@ -248,7 +248,7 @@ struct Expectation {
 
   void replace() {
     if (!a.data() || !b.data()) return;
-    read(second, 1);  // An empty pattern is told before a null replacement.
+    read(second, 1);  // An empty pattern is looked for before a null replacement.
     if (!r.data() || b.empty()) return;
     for (const Slot slot : {first, second, third}) read(slot, unbounded);
     std::u16string text;
@@ -273,7 +273,7 @@ struct Expectation {
     if (c.m > 1) text = (c.n < 0 ? u"-" : u"") + digits(magnitude, uint32_t(c.m));
     for (char16_t& unit : text) unit = c.wide ? unit : unit & 0xFF;
     write_ended(to, to_index, text);
-    readable[to] = writable[to];  // The digits are turned round there.
+    readable[to] = writable[to];  // The digits are reversed there.
   }
 
   void to_integer() {

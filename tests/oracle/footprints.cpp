@@ -1,4 +1,4 @@
-// Notes each load and store of a library that was built to tell them.
+// Notes each load and store of a library that was built to report them.
 #include "call.h"
 
 namespace oracle {

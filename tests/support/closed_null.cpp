@@ -1,5 +1,5 @@
 #include "board.h"
 
-// What stands at address 0, the vectors, is not the library's to touch: a guard against null that is missing faults.
-// The last area, which counts where two overlap.
+// The vectors at address 0 are not the library's to touch: an operation without its guard against null faults.
+// The last area: where two overlap, it is the one that counts.
 [[maybe_unused]] static const bool closed = (board_protect(7, nullptr, 64, BOARD_ACCESS_NONE), true);

@@ -20,11 +20,11 @@ struct Text {
   bool is_null = false;
 };
 
-// Units alone, without a terminator behind them.
+// Units alone, without a terminator after them.
 inline Text operator""_u(const char16_t* units, std::size_t size) { return Text(units, size); }
 const Text fresh = u""_u;
 
-// Exactly the units of `before` and, if it is longer, as many markers as `after` needs, which must stand there at the end.
+// Exactly the units of `before` and as many markers as a longer `after` needs, which must stand there at the end.
 // Without `after`, or with null, it is only read: a store faults. So does an access to the unit before the first, or to
 // the one past the last: which of them is the side under test.
 template <class Unit>

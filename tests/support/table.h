@@ -51,7 +51,7 @@ auto rows_of(std::function<void(Cells...)> body) {
   };
 }
 
-// What is called with the cells of a row, and runs `body` with them once for each side of its buffers. A row with a
+// A function of a row's cells, which runs `body` with them once for each side of its buffers. A row with a
 // unit above 255 is for wide strings alone.
 template <class Unit, class Body>
 auto rows(Body body) {
