@@ -4,11 +4,11 @@
 char reply[16];
 
 int main(void) {
-  char line[] = "SET led = on", *words[6];
+  char line[] = "SET led = on", *words[3];
   if (quvex_split(line, " =", words) == 3 && quvex_compare_folded(words[0], "set") == 0) {
-    quvex_copy_bounded(reply, sizeof reply, words[1]);
-    quvex_append_bounded(reply, sizeof reply, " is ");
-    quvex_append_bounded(reply, sizeof reply, words[2]);
+    quvex_copy(reply, words[1]);
+    quvex_append(reply, " is ");
+    quvex_append(reply, words[2]);
   }
   return quvex_compare(reply, "led is on");
 }
