@@ -5,7 +5,7 @@
 
 namespace {
 
-// The bit, one of 32, that stands for a unit; the leftmost one for zero. A unit whose bit is clear in a filter is none of
+// The bit, one of 32, that stands for a unit; the leftmost for zero. A unit whose bit is clear in a filter is none of
 // those that set it.
 QUVEX_INLINE uint32_t bit_of(uint32_t unit) { return 0x80000000 >> unit % 32; }
 QUVEX_INLINE bool may_hold(uint32_t filter, uint32_t unit) { return filter << unit % 32 >> 31; }
