@@ -130,7 +130,7 @@ function forbidding({name, fault: {reason, step}, message, arguments: all}) {
 
 // ---- What is shown ----
 
-let typed, call, rooms, now = 0, depth = -1, chosen = null, timer = 0;
+let typed, call, rooms, now = 0, depth = -1, chosen = null, timer;
 
 const inputs = () => [...$('fields').querySelectorAll('input')];
 const address = (text) => '#' + encodeURI(text);
@@ -347,12 +347,7 @@ function showTry() {
 
 // ---- Mouse and keyboard ----
 
-function stop() {
-  clearInterval(timer);
-  timer = 0;
-  $('play').ariaLabel = 'Play';
-}
-
+const stop = () => { timer = clearInterval(timer); $('play').ariaLabel = 'Play'; };
 function go(count, isPlaying = false) {
   now = Math.max(0, Math.min(count, call.steps.length));
   if (!isPlaying || now === call.steps.length) stop();
@@ -365,21 +360,15 @@ function seek(fits) {
   go(found.find((at) => at > now) ?? found[0] ?? now);
 }
 
-function choose(key) {
-  chosen = key;
-  showPlot();
-  seek(isChosen);
-}
-
+const choose = (key) => { chosen = key; showPlot(); seek(isChosen); };
 $('play').onclick = () => {
   if (timer || !call.steps.length) return stop();
   if (now === call.steps.length) go(0);
   timer = setInterval(() => go(now + 1, true), Math.max(30, Math.min(300, 12000 / call.steps.length)));
   $('play').ariaLabel = 'Pause';
 };
-for (const [id, count] of Object.entries({first: -Infinity, back: -1, forth: 1, last: Infinity})) {
-  $(id).onclick = () => go(now + count);
-}
+const acts = {first: -Infinity, back: -1, forth: 1, last: Infinity};
+for (const id in acts) $(id).onclick = () => go(now + acts[id]);
 $('slider').oninput = () => go(Number($('slider').value));
 $('plot').onclick = ({offsetX}) => go(Math.ceil((offsetX - margin) / (timeAt(1) - timeAt(0))));
 $('line').oninput = () => show($('line').value, 'line');
