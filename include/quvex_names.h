@@ -54,10 +54,11 @@
 /* An array, and how many units one of this kind holds; a pointer never stops anything. */
 #define QUVEX_DECAYED(text) __typeof__(((void)0, (text)))
 #define QUVEX_IS_ARRAY(text) (!__builtin_types_compatible_p(__typeof__(text), QUVEX_DECAYED(text)))
-#define QUVEX_SIZE(text) ((int32_t)(sizeof(text) / (QUVEX_KIND(text) & 2 ? 2 : 1)))
+#define QUVEX_SIZE(text) ((int32_t)(sizeof(__typeof__(text)) / (QUVEX_KIND(text) & 2 ? 2 : 1)))
 #define QUVEX_ROOM(text) (QUVEX_IS_ARRAY(text) ? QUVEX_SIZE(text) : INT32_MAX)
 /* The same where a constant is wanted: an array of variable length stops nothing before the program runs. */
-#define QUVEX_FIXED_ROOM(text) __builtin_choose_expr(__builtin_constant_p(sizeof(text)), QUVEX_ROOM(text), INT32_MAX)
+#define QUVEX_FIXED_ROOM(text) \
+  __builtin_choose_expr(__builtin_constant_p(sizeof(__typeof__(text))), QUVEX_ROOM(text), INT32_MAX)
 /* A constant as itself, anything else as 0: both are constants. */
 #define QUVEX_CONSTANT(number) __builtin_choose_expr(__builtin_constant_p(number), (number), 0)
 
@@ -98,7 +99,7 @@
 
 #define QUVEX_AS_CONST(text, result) \
   _Generic((text), char*: (const char*)(const void*)(result), default: (const quvex_narrow*)(const void*)(result))
-#define QUVEX_SLOTS(array) ((int32_t)(sizeof(array) / sizeof(void*)))
+#define QUVEX_SLOTS(array) ((int32_t)(sizeof(__typeof__(array)) / sizeof(void*)))
 
 /* A character's number: `char` counts as unsigned. */
 #define QUVEX_NUMBER(character) \

@@ -73,7 +73,8 @@ int main(void) {
 
   /* Bounded by the array, by a size, by nothing. */
   CALL(copy)(text, "1234567890");
-  CALL(copy)(few, text);
+  CALL(copy)(few, text + 1);
+  CALL(copy_bounded)(few + 1, 2, text + 1);
   CALL(append)(few, text);
   EXPECT(CALL(length)(few) == 7);
   CALL(copy)(text, "a b c");
