@@ -52,7 +52,13 @@ QUVEX_INLINE int32_t to_integer(const Unit* source) {
   const bool negative = *source == '-';
   if (negative) ++source;
   uint32_t number = 0;
-  for (uint32_t digit; (digit = *source - uint32_t{'0'}) < 10; ++source) number = number * 10 + digit;
+  for (uint32_t digit; (digit = *source - uint32_t{'0'}) < 10; ++source) {
+    uint32_t eightfold = number * 8;
+#if defined(__riscv) && !defined(__riscv_mul)
+    __asm__("" : "+r"(eightfold));  // Both as one, clang would multiply, which calls the compiler's library here.
+#endif
+    number = eightfold + number * 2 + digit;
+  }
   if (negative) number = 0 - number;
   return static_cast<int32_t>(number);
 }
