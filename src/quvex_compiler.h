@@ -27,32 +27,14 @@
 #define QUVEX_MOST(Unit) ((UINTPTR_MAX / 2 + 1) / sizeof(Unit))
 #define QUVEX_ENDLESS(unbounded) (!QUVEX_SPEED && (unbounded))
 
-#if defined(__has_attribute)
-#if __has_attribute(uninitialized)
-// -ftrivial-auto-var-init would call memset for it.
-#define QUVEX_UNINITIALIZED __attribute__((uninitialized))
-#endif
-#if __has_attribute(no_stack_protector)
-// A canary would call __stack_chk_fail.
-#define QUVEX_NO_CANARY __attribute__((no_stack_protector))
-#endif
-#endif
-#ifndef QUVEX_UNINITIALIZED
-#define QUVEX_UNINITIALIZED
-#endif
-#ifndef QUVEX_NO_CANARY
-#define QUVEX_NO_CANARY
-#endif
+#define QUVEX_UNINITIALIZED __attribute__((uninitialized))   // -ftrivial-auto-var-init would call memset for an array
+#define QUVEX_NO_CANARY __attribute__((no_stack_protector))  // a canary would call __stack_chk_fail
 
 #if defined(__clang__)
 
-#ifdef __OPTIMIZE_SIZE__
-#define QUVEX_EXPORT QUVEX_NO_CANARY __attribute__((noinline, no_builtin, minsize))
-#else
 // Inlined into an application by link-time optimization, a loop could become a call of memcpy, and a store to a unit would
 // be taken for one that no char16_t can see.
 #define QUVEX_EXPORT QUVEX_NO_CANARY __attribute__((noinline, no_builtin))
-#endif
 // A definition inherits nothrow from the header; clang would have it said again.
 #pragma clang diagnostic ignored "-Wmissing-exception-spec"
 
@@ -62,6 +44,7 @@
 // follow here, is not inlined into one that has others, at link time either.
 #define QUVEX_EXPORT QUVEX_NO_CANARY __attribute__((no_icf))
 #pragma GCC diagnostic ignored "-Wpragmas"                // an option that this GCC does not know is not missed
+#pragma GCC diagnostic ignored "-Wattributes"             // nor is an attribute
 #pragma GCC optimize("no-tree-loop-distribute-patterns")  // a loop must not become a call of memcpy, memset or strlen
 #pragma GCC optimize("no-shrink-wrap")  // one way in and out is smaller than a second one that saves no registers
 #ifdef __OPTIMIZE_SIZE__
