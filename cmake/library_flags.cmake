@@ -23,8 +23,7 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL Clang)
     -fomit-frame-pointer   # clang keeps one in every function with a stack
     -mno-outline           # at -Oz, code that operations share would become a function of its own
     $<$<CONFIG:MinSizeRel>:-Oz>  # -Os is for speed as well
-    "$<$<CONFIG:MinSizeRel>:SHELL:-mllvm -enable-shrink-wrap=false>"  # as no-shrink-wrap for GCC
-    $<$<CONFIG:Release>:-fno-unroll-loops>)  # only loops that say so
+    "$<$<CONFIG:MinSizeRel>:SHELL:-mllvm -enable-shrink-wrap=false>")  # as no-shrink-wrap for GCC
 endif()
 
 # D: no time, user or mode of a member in the archive.

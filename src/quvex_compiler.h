@@ -21,6 +21,13 @@
 #define QUVEX_UNROLL(iterations) QUVEX_PRAGMA(GCC unroll iterations)
 #endif
 
+// A loop that clang would unroll although it gains little.
+#ifdef __clang__
+#define QUVEX_ROLLED _Pragma("clang loop unroll(disable)")
+#else
+#define QUVEX_ROLLED
+#endif
+
 // For a loop that is left from its body: an iteration count that no string reaches, half of the address space in units.
 // GCC unrolls a loop of several exits only if it can count the iterations. For size the loop is endless: a count would
 // cost a test.

@@ -17,6 +17,7 @@ QUVEX_INLINE Unit* to_text(int32_t value, Unit* destination, int32_t radix) {
     }
     const uint32_t base = static_cast<uint32_t>(radix);
     Unit* first = end;
+    QUVEX_ROLLED
     do {
 #if (defined(__arm__) && !defined(__ARM_FEATURE_IDIV)) || (defined(__riscv) && !defined(__riscv_div))
       uint32_t digit = 0;  // Without a divide instruction, a division would call the compiler's library.
@@ -35,6 +36,7 @@ QUVEX_INLINE Unit* to_text(int32_t value, Unit* destination, int32_t radix) {
       *end = static_cast<Unit>('0' + digit);
       ++end;
     } while (magnitude);
+    QUVEX_ROLLED
     for (Unit* last = end; first < --last; ++first) {
       const Unit unit = *last;
       *last = *first;
@@ -52,6 +54,7 @@ QUVEX_INLINE int32_t to_integer(const Unit* source) {
   const bool negative = *source == '-';
   if (negative) ++source;
   uint32_t number = 0;
+  QUVEX_ROLLED
   for (uint32_t digit; (digit = *source - uint32_t{'0'}) < 10; ++source) {
     uint32_t eightfold = number * 8;
 #if defined(__riscv) && !defined(__riscv_mul)

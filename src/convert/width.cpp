@@ -8,6 +8,7 @@ const quvex_narrow empty[] = "";
 const quvex_narrow escape_opening[] = "&(0x";
 
 QUVEX_INLINE quvex_narrow* write_digits(uint32_t number, quvex_narrow* end) {
+  QUVEX_ROLLED
   do {
     uint32_t digit = number & 15;
     if (digit > 9) digit += 'a' - '0' - 10;

@@ -6,6 +6,7 @@
 // Zero is in no set: the set ends where it would be found.
 template <class Unit>
 QUVEX_INLINE bool is_member(const Unit* set, uint32_t unit) {
+  QUVEX_ROLLED
   for (; *set; ++set) {
     if (*set == unit) return true;
   }

@@ -13,6 +13,7 @@ QUVEX_INLINE bool may_hold(uint32_t filter, uint32_t unit) { return filter << un
 template <class Unit>
 QUVEX_INLINE uint32_t filter_of(const Unit* set) {
   uint32_t filter = 0;
+  QUVEX_ROLLED
   do filter |= bit_of(*set);
   while (*set++);
   return filter;
@@ -25,6 +26,7 @@ QUVEX_INLINE Unit* next_token(Unit* string, uint32_t* cursor, const Unit* set) {
   Unit* token = &string[*cursor];
   Unit* end = token;
   for (;; ++end) {
+    QUVEX_ROLLED
     while (!may_hold(filter, *end)) ++end;
     if (!*end) break;
     if (!is_member(set, *end)) continue;
