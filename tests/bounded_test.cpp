@@ -14,7 +14,7 @@ TYPED_TEST(Bounded, SplitFillsItsSlotsAndSaysThatThereWasMore) {
     std::vector<TypeParam*> array(static_cast<std::size_t>(slots));
     EXPECT_EQ(quvex::split_bounded(static_cast<TypeParam*>(string), static_cast<TypeParam*>(set), array.data(), slots),
               result);
-    for (int32_t i = 1; i < result; ++i) EXPECT_LT(array[i - 1], array[i]);
+    for (int32_t i = 1; i < result; ++i) EXPECT_LT(array.data()[i - 1], array.data()[i]);
   });
   row(u"a b c", u" ", 3, 3, u"a\0b\0c");
   row(u"a b c", u" ", 2, -2, u"a\0b\0c");
