@@ -69,11 +69,13 @@ constexpr int32_t no_token = -1;
 
 struct Memory {
   alignas(8) unsigned char bytes[strings][room * 2];
+  bool reversed;  // The slots stand the other way round.
   unsigned unit_size[strings];
   void* token[room];
   uint32_t cursor;
 };
 inline Memory memory;
+inline unsigned char* bytes_of(int slot) { return memory.bytes[memory.reversed ? strings - 1 - slot : slot]; }
 
 // The units that a call read and wrote, where the compiler made the library tell each load and store.
 struct Footprint {
@@ -144,7 +146,8 @@ inline int64_t place_of(const void* pointer) {
   if (!pointer) return null_pointer;
   const auto offset = reinterpret_cast<uintptr_t>(pointer) - reinterpret_cast<uintptr_t>(memory.bytes);
   if (offset < sizeof memory.bytes) {
-    const auto slot = static_cast<int>(offset / sizeof memory.bytes[0]);
+    const auto position = static_cast<int>(offset / sizeof memory.bytes[0]);
+    const int slot = memory.reversed ? strings - 1 - position : position;
     return place(slot, static_cast<int64_t>(offset % sizeof memory.bytes[0] / memory.unit_size[slot]));
   }
   if (!constant) constant = pointer;
@@ -171,7 +174,7 @@ int64_t result_of(Function* function, Arguments... arguments) {
 
 inline int64_t invoke(const Call& c) {
   const auto address = [](int slot, int index) {
-    return memory.bytes[slot] + index * static_cast<int>(memory.unit_size[slot]);
+    return bytes_of(slot) + index * static_cast<int>(memory.unit_size[slot]);
   };
   const auto string = [&](int slot) { return Pointer{c.text[slot].data() ? address(slot, c.at[slot]) : nullptr}; };
   const auto unless_null = [&](void* object) { return Pointer{c.placing == Placing::null ? nullptr : object}; };
@@ -200,8 +203,9 @@ inline unsigned unit_size(const Call& c, int slot) {
 
 // Makes the call in memory as it is in `state`, which then holds what the call left there.
 inline void perform(const Call& c, State& state) {
+  memory.reversed = !memory.reversed;
   for (int slot = first; slot < strings; ++slot) {
-    auto* const bytes = memory.bytes[slot];
+    auto* const bytes = bytes_of(slot);
     memory.unit_size[slot] = unit_size(c, slot);
     if (memory.unit_size[slot] == 2) std::copy_n(state.unit[slot], room, reinterpret_cast<quvex_wide*>(bytes));
     if (memory.unit_size[slot] == 1) std::copy_n(state.unit[slot], room, bytes);
@@ -210,7 +214,7 @@ inline void perform(const Call& c, State& state) {
   memory.cursor = state.cursor;
   state.result = invoke(c);
   for (int slot = first; slot < strings; ++slot) {
-    const auto* const bytes = memory.bytes[slot];
+    const auto* const bytes = bytes_of(slot);
     if (memory.unit_size[slot] == 2) std::copy_n(reinterpret_cast<const quvex_wide*>(bytes), room, state.unit[slot]);
     if (memory.unit_size[slot] == 1) std::copy_n(bytes, room, state.unit[slot]);
   }

@@ -22,8 +22,9 @@ static void mark(int slot, const void* base, const void* address, unsigned size,
 
 static void record(const void* address, unsigned size, bool store) {
   for (int slot = first; slot < strings; ++slot) {
-    const auto& bytes = memory.bytes[slot];
-    if (is_within(address, bytes, sizeof bytes)) return mark(slot, bytes, address, size, memory.unit_size[slot], store);
+    const void* const bytes = bytes_of(slot);
+    if (is_within(address, bytes, sizeof memory.bytes[0]))
+      return mark(slot, bytes, address, size, memory.unit_size[slot], store);
   }
   if (is_within(address, memory.token, sizeof memory.token))
     return mark(tokens, memory.token, address, size, sizeof(void*), store);

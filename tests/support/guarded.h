@@ -26,12 +26,16 @@ const Text fresh = u""_u;
 
 // Exactly the units of `before` and as many markers as a longer `after` needs, which must stand there at the end.
 // Without `after`, or with null, it is only read: a store faults. So does an access to the unit before the first, or to
-// the one past the last: which of them is the side under test.
+// the one past the last: which of them is the side under test, and so is whether
+// the first buffer of a row lies before the others or behind them.
 template <class Unit>
 class Guarded {
  public:
   explicit Guarded(const Text& before, const Text& after = nullptr)
-      : page_(used_pages++), is_null_(before.is_null), expected_(after.is_null ? before.units : after.units) {
+      : page_(side_under_test == Side::start ? used_pages : pages - 1 - used_pages),
+        is_null_(before.is_null),
+        expected_(after.is_null ? before.units : after.units) {
+    ++used_pages;
     std::u16string units = before.units;
     units.resize(std::max(units.size(), expected_.size()), u'#');
     uint8_t* start = protect_page(page_, Access::write);
