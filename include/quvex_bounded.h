@@ -91,11 +91,11 @@ QUVEX_COMPOSED int32_t QUVEX_TWIN_OF(quvex_replace_narrow, quvex_replace_wide)(c
   return length;
 }
 
-/* The empty string where the radix may need more units, as for a radix of 0. */
+/* The empty string where the radix may need more units, as for a radix of 0; the greatest needs 4. */
 QUVEX_COMPOSED QUVEX_UNIT* QUVEX_TWIN_OF(quvex_to_text_narrow, quvex_to_text_wide)(int32_t value,
                                                                                    QUVEX_UNIT* destination,
                                                                                    int32_t size, int32_t radix) {
-  if (size < 2) {
+  if (size < 4) {
     QUVEX_TWIN_OF(QUVEX_002010, QUVEX_002035)(destination, size, QUVEX_NULL);
     return destination;
   }
