@@ -494,11 +494,12 @@ QUVEX_FORWARD int32_t split(String&& string, reading<String> set, Array&& array)
   }
 }
 
-template <class String>
-QUVEX_FORWARD int32_t split_bounded(String&& string, reading<String> set, pointer<String>* array,
-                                    int32_t slots) noexcept {
+template <class String, class Array>
+QUVEX_FORWARD int32_t split_bounded(String&& string, reading<String> set, Array&& array, int32_t slots) noexcept {
+  pointer<String>* first = detail::first(array);
   return detail::twin<detail::unit_of<String>, quvex_split_narrow, quvex_split_wide>(
-      changing<String>(string), set, reinterpret_cast<quvex_any_pointer*>(array), slots);
+      changing<String>(string), set, reinterpret_cast<quvex_any_pointer*>(first),
+      quvex_lesser(slots, detail::room(array)));
 }
 
 template <class String>

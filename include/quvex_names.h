@@ -99,7 +99,7 @@
 
 #define QUVEX_AS_CONST(text, result) \
   _Generic((text), char*: (const char*)(const void*)(result), default: (const quvex_narrow*)(const void*)(result))
-#define QUVEX_SLOTS(array) ((int32_t)(sizeof(__typeof__(array)) / sizeof(void*)))
+#define QUVEX_SLOTS(array) (QUVEX_IS_ARRAY(array) ? (int32_t)(sizeof(__typeof__(array)) / sizeof(void*)) : INT32_MAX)
 
 /* A character's number: `char` counts as unsigned. */
 #define QUVEX_NUMBER(character) \
@@ -236,17 +236,18 @@
                        QUVEX_UNLESS(!QUVEX_IS_ARRAY(array),                                                      \
                                     "a pointer does not tell how many slots it has: write "                      \
                                     "quvex_split_bounded(string, set, array, slots)")),                          \
-   __builtin_choose_expr(QUVEX_IS_ARRAY(string) && QUVEX_SLOTS(array) >= QUVEX_SIZE(string) / 2,                 \
+   __builtin_choose_expr(QUVEX_CONSTANT(QUVEX_SLOTS(array)) >= QUVEX_FIXED_ROOM(string) / 2,                     \
                          QUVEX_TWIN(QUVEX_KIND(string) | QUVEX_KIND(set), QUVEX_002021, QUVEX_002048)(           \
                              (void*)(string), (const void*)(set), (void*)(array)),                               \
                          QUVEX_TWIN(QUVEX_KIND(string) | QUVEX_KIND(set), quvex_split_narrow, quvex_split_wide)( \
                              (void*)(string), (const void*)(set), (void*)(array), QUVEX_SLOTS(array))))
-#define quvex_split_bounded(string, set, array, slots)                                                 \
-  (QUVEX_CHECK(QUVEX_WRITES(string) QUVEX_READS(set) QUVEX_ALIKE(QUVEX_KIND(string) | QUVEX_KIND(set)) \
-                   QUVEX_UNLESS(QUVEX_SLOTS_KIND(array) != QUVEX_KIND(string),                         \
-                                "the array of split holds pointers to the characters of its text")),   \
-   QUVEX_TWIN(QUVEX_KIND(string) | QUVEX_KIND(set), quvex_split_narrow, quvex_split_wide)(             \
-       (void*)(string), (const void*)(set), (void*)(array), slots))
+#define quvex_split_bounded(string, set, array, slots)                                                               \
+  (QUVEX_CHECK(QUVEX_WRITES(string) QUVEX_READS(set) QUVEX_ALIKE(QUVEX_KIND(string) | QUVEX_KIND(set)) QUVEX_UNLESS( \
+       QUVEX_SLOTS_KIND(array) != QUVEX_KIND(string),                                                                \
+       "the array of split holds pointers to the characters of its text")                                            \
+                   QUVEX_UNLESS(QUVEX_CONSTANT((slots) > QUVEX_SLOTS(array)), "this is more than the array holds")), \
+   QUVEX_TWIN(QUVEX_KIND(string) | QUVEX_KIND(set), quvex_split_narrow, quvex_split_wide)(                           \
+       (void*)(string), (const void*)(set), (void*)(array), quvex_lesser(slots, QUVEX_SLOTS(array))))
 #define quvex_split_unbounded(string, set, array)                                                                    \
   (QUVEX_CHECK(QUVEX_WRITES(string) QUVEX_READS(set) QUVEX_ALIKE(QUVEX_KIND(string) | QUVEX_KIND(set))               \
                    QUVEX_UNLESS(QUVEX_SLOTS_KIND(array) != QUVEX_KIND(string),                                       \
