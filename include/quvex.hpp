@@ -167,7 +167,7 @@ QUVEX_FORWARD constexpr int32_t room([[maybe_unused]] Destination& destination) 
   }
 }
 
-// The first unit of a destination.
+// The first unit of a destination; null if it turns out to hold none, not even a terminator.
 template <class Unit, class Destination>
 QUVEX_FORWARD Unit* into(Destination& destination) noexcept {
   static_assert(sizeof(unit_of<Destination>) == sizeof(Unit), "quvex: narrow and wide text do not mix");
@@ -177,6 +177,7 @@ QUVEX_FORWARD Unit* into(Destination& destination) noexcept {
   if constexpr (is_const<type_of<Destination>>) {
     return nullptr;
   } else {
+    if (has_room<Destination> && size_of<Destination> == 0 && room(destination) == 0) return nullptr;
     return reinterpret_cast<Unit*>(static_cast<type_of<Destination>*>(first(destination)));
   }
 }

@@ -107,6 +107,15 @@ void expect_bounded(const Unit* text) {
   }
 }
 
+// As a span: of units that are another's.
+template <class Unit>
+struct Part {
+  Unit* units;
+  std::size_t count;
+  [[nodiscard]] Unit* data() const { return units; }
+  [[nodiscard]] std::size_t size() const { return count; }
+};
+
 TEST(BoundedArray, AndItsLikeKeepTheirSize) {
   const char narrow[] = {'a', 'b', 'c', 'd', 'e', 0};
   expect_bounded<char[4]>(narrow);
@@ -118,4 +127,8 @@ TEST(BoundedArray, AndItsLikeKeepTheirSize) {
   EXPECT_STREQ(room.data(), "abc");
   quvex::to_text(-1000, room, 10);  // could need 12
   EXPECT_STREQ(room.data(), "");
+  room[0] = '#';
+  const Part<char> none = {room.data(), 0};
+  quvex::copy_counted(none, narrow, 0), quvex::escape(u"abc", none), quvex::append(none, narrow);
+  EXPECT_EQ(room[0], '#');
 }
