@@ -122,10 +122,9 @@ inline constexpr size_type fixed_size<const Element[Size]> = Size;
 template <class Argument>
 inline constexpr size_type size_of = fixed_size<typename plain<Argument>::type>;
 
-// A view holds no units of its own: nothing says that a terminator follows them.
+// A view holds no units of its own: nothing says that a terminator follows them. A std::array is an aggregate.
 template <class Argument, class Type = typename plain<Argument>::type>
-inline constexpr bool is_view =
-    is_sized<Type> && !is_string<Type> && (size_of<Type> == 0 || sizeof(Type) < size_of<Type>);
+inline constexpr bool is_view = is_sized<Type> && !is_string<Type> && (size_of<Type> == 0 || !__is_aggregate(Type));
 
 // The first unit of text; anything else is passed on as it is.
 template <class Type>
