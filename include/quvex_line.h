@@ -165,8 +165,9 @@ class text {
 #define quvex_add(text, source)                                                              \
   (QUVEX_CHECK(QUVEX_READS(source) QUVEX_ALIKE(QUVEX_TEXT_KIND(text) | QUVEX_KIND(source))), \
    QUVEX_TWIN(QUVEX_TEXT_KIND(text), quvex_add_narrow, quvex_add_wide)(text, (const void*)(source)))
-#define quvex_add_character(text, character) \
-  QUVEX_TWIN(QUVEX_TEXT_KIND(text), quvex_add_character_narrow, quvex_add_character_wide)(text, QUVEX_NUMBER(character))
+#define quvex_add_character(text, character)                                                                 \
+  (QUVEX_CHECK(QUVEX_IS_CHARACTER(character)), QUVEX_TWIN(QUVEX_TEXT_KIND(text), quvex_add_character_narrow, \
+                                                          quvex_add_character_wide)(text, QUVEX_NUMBER(character)))
 #define quvex_add_integer(text, value, radix) \
   QUVEX_TWIN(QUVEX_TEXT_KIND(text), quvex_add_integer_narrow, quvex_add_integer_wide)(text, value, radix)
 

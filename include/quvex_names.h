@@ -76,6 +76,8 @@
   QUVEX_READS(text) \
   QUVEX_UNLESS((QUVEX_KIND(text) & 4) || (QUVEX_IS_ARRAY(text) && __builtin_constant_p(text)), \
                "text that is written to cannot be const")
+#define QUVEX_IS_CHARACTER(character) \
+  QUVEX_UNLESS(QUVEX_KIND(character) != 32, "a character is wanted here, not text: write it between single quotes")
 #define QUVEX_ALIKE(kinds) QUVEX_UNLESS(((kinds) & 3) == 3, "narrow and wide text do not mix")
 #define QUVEX_HAS_ROOM(destination, instead) \
   QUVEX_UNLESS(!QUVEX_IS_ARRAY(destination), "a pointer does not tell how much it holds: write " instead)
@@ -177,8 +179,10 @@
 
 /* ---- Case ---- */
 
-#define quvex_character_to_lower(character) QUVEX_002026(QUVEX_NUMBER(character))
-#define quvex_character_to_upper(character) QUVEX_002027(QUVEX_NUMBER(character))
+#define quvex_character_to_lower(character) \
+  (QUVEX_CHECK(QUVEX_IS_CHARACTER(character)), QUVEX_002026(QUVEX_NUMBER(character)))
+#define quvex_character_to_upper(character) \
+  (QUVEX_CHECK(QUVEX_IS_CHARACTER(character)), QUVEX_002027(QUVEX_NUMBER(character)))
 #define quvex_to_lower(string) \
   (QUVEX_CHECK(QUVEX_WRITES(string)), QUVEX_TWIN(QUVEX_KIND(string), QUVEX_002015, QUVEX_002040)((void*)(string)))
 #define quvex_to_upper(string) \
@@ -207,10 +211,9 @@
 
 /* ---- Search ---- */
 
-#define quvex_find_character(string, character)                                                               \
-  (QUVEX_CHECK(QUVEX_READS(string) QUVEX_UNLESS(                                                              \
-       QUVEX_KIND(character) != 32, "a character is wanted here, not text: write it between single quotes")), \
-   QUVEX_AS(string, QUVEX_TWIN(QUVEX_KIND(string), QUVEX_002007, QUVEX_002032)((const void*)(string),         \
+#define quvex_find_character(string, character)                                                       \
+  (QUVEX_CHECK(QUVEX_READS(string) QUVEX_IS_CHARACTER(character)),                                    \
+   QUVEX_AS(string, QUVEX_TWIN(QUVEX_KIND(string), QUVEX_002007, QUVEX_002032)((const void*)(string), \
                                                                                QUVEX_NUMBER(character))))
 #define quvex_find(haystack, needle)                                                                              \
   (QUVEX_CHECK(QUVEX_READS(haystack) QUVEX_READS(needle) QUVEX_ALIKE(QUVEX_KIND(haystack) | QUVEX_KIND(needle))), \
