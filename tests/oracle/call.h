@@ -91,7 +91,7 @@ inline Footprint footprint;
 // What a caller may ask for, in slots of this size.
 inline bool is_allowed(const Call& c) {
   const Operation& o = operation(c.op);
-  const int64_t a = c.text[first].size(), b = c.text[second].size(), r = c.text[third].size();
+  const auto a = int64_t(c.text[first].size()), b = int64_t(c.text[second].size()), r = int64_t(c.text[third].size());
   const int from = c.at[first], in_place = c.placing == Placing::in_place;
   const int to = in_place ? from + c.shift : c.at[destination];
   if (!c.wide && o.narrow == o.wide) return false;
@@ -101,7 +101,7 @@ inline bool is_allowed(const Call& c) {
   if (in_place && o.extra == the_same_twice && c.text[second].data()) return false;  // There is no other string.
   if (to < 0 || (c.shift && !(in_place && c.op == Op::copy_units))) return false;
   for (int slot = first; slot < destination; ++slot) {
-    if (c.at[slot] + c.text[slot].size() >= room) return false;
+    if (c.at[slot] + int64_t(c.text[slot].size()) >= room) return false;
   }
   switch (c.op) {
     case Op::next_token:
