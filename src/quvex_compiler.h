@@ -28,6 +28,9 @@
 #define QUVEX_ROLLED
 #endif
 
+// Throughout the sources a load or store and the step behind it are two statements: only then does GCC, built for size,
+// make one instruction of them.
+
 // For a loop that is left from its body: an iteration count that no string reaches, half of the address space in units.
 // GCC unrolls a loop of several exits only if it can count the iterations. For size the loop is endless: a count would
 // cost a test.
