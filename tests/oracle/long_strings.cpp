@@ -1,4 +1,4 @@
-// Strings of more units than 15, 16 and 17 bits can count, in every part that a string plays in a call.
+// Strings of more units than 16 bits can count, in every part that a string plays in a call.
 #include <vector>
 
 #include "families.h"
@@ -6,8 +6,8 @@
 namespace oracle {
 namespace {
 
-constexpr int length = 0x28003;  // No type of fewer bits keeps it, and no unrolled loop comes out even.
-static_assert(room >= length + 64, "to be built with -DORACLE_ROOM=0x28080");
+constexpr int length = room - 0x7D;  // No unrolled loop comes out even.
+static_assert(length > 0xFFFF, "to be built with -DORACLE_ROOM=0x10080, or 0x28080 for more than 17 bits");
 
 // One unit short of a string's end, just past it, and beyond any.
 std::vector<int32_t> numbers(Numbers kind, const Call& c, Text alphabet) {
