@@ -10,6 +10,9 @@ TYPED_TEST(Case, MapsTheLettersOfTheOtherCase) {
     Op<TypeParam>::to_upper(raised);
   });
   row(nullptr, nullptr, nullptr);
+  row(u"A", u"a", nullptr);
+  row(u"1Z", u"1z", nullptr);
+  row(u"12z", nullptr, u"12Z");
   row(u"@[`{ AZ\xC1", u"@[`{ az\xC1", nullptr);
   row(u"@[`{ az\xE1", nullptr, u"@[`{ AZ\xE1");
   row(u"A\x141\x161z", u"a\x141\x161z", u"A\x141\x161Z");
