@@ -124,7 +124,7 @@ void each_call_of_pairs(const Family& family, bool wide, bool every) {
       if (family.longest[third] != unused) c.text[third] = u"+"sv;
       if (family.n != any) c.n = family.op == Op::next_token ? 0 : family.n == pieces ? 11 : 2;
       cases += is_allowed(c);
-      if (is_allowed(c) && wrong < 20) wrong += !holds(c);
+      if (is_allowed(c) && wrong < most_wrong) wrong += !holds(c);
     }
   }
 }
@@ -162,9 +162,13 @@ void each_overlap() {
   }
 }
 
-void run(int longest) {
+void run(int longest, std::string_view link) {
+  const auto is_asked = [&](Op op, bool wide) {
+    return link.empty() || link == (wide ? operation(op).wide : operation(op).narrow);
+  };
   for (const Family& family : families) {
     for (const bool wide : {false, true}) {
+      if (!is_asked(family.op, wide)) continue;
       each_call_of_strings(family, wide, 0, longest);
       // After a prefix of seven, so that unrolled loops complete a full iteration.
       if (family.longest[first] != unused) each_call_of_strings(family, wide, 7, longest - 2);
@@ -173,17 +177,21 @@ void run(int longest) {
     }
   }
   for (const Op op : {Op::find, Op::find_folded, Op::next_token, Op::split, Op::trim, Op::replace}) {
-    for (const char16_t start : {u'a', u'A', u'\x90', u'\xC0'}) each_call_of_sequences(op, false, start);
-    for (const char16_t start : {u'a', u'A', u'\xF8', u'\x8141'}) each_call_of_sequences(op, true, start);
+    for (const bool wide : {false, true}) {
+      if (!is_asked(op, wide)) continue;
+      for (const char16_t start : wide ? u"aA\xF8\x8141"sv : u"aA\x90\xC0"sv) each_call_of_sequences(op, wide, start);
+    }
   }
-  each_overlap();
+  if (is_asked(Op::copy_units, true)) each_overlap();
 }
 
 }  // namespace
 }  // namespace oracle
 
+// exhaustive [UNITS [LINK_NUMBER]]: all operations; or one, up to its first wrong call.
 int main(int argc, char** argv) {
   const int longest = argc > 1 ? std::atoi(argv[1]) : 3;
-  oracle::run(longest);
+  if (argc > 2) oracle::most_wrong = 1;
+  oracle::run(longest, argc > 2 ? argv[2] : "");
   return oracle::report("cases", longest);
 }

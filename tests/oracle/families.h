@@ -48,7 +48,7 @@ void each_run(Text alphabet, int length, Visit visit) {
   if (length > 2) visit(Text(run));
 }
 
-inline long cases = 0, wrong = 0;
+inline long cases = 0, wrong = 0, most_wrong = 20;
 
 // Makes a call in every placing that it can have.
 inline void attempt(Call c) {
@@ -56,7 +56,7 @@ inline void attempt(Call c) {
     c.placing = placing;
     if (!is_allowed(c)) continue;
     ++cases;
-    if (wrong < 20) wrong += !holds(c);
+    if (wrong < most_wrong) wrong += !holds(c);
   }
 }
 
