@@ -15,6 +15,9 @@ void board_write(char character);
 /* End the emulator with this exit status. */
 __attribute__((noreturn)) void board_exit(int status);
 
+/* Say what went wrong and end. Weak: an image that knows more may have its own. */
+__attribute__((noreturn)) void board_fault(uint32_t address, uint32_t instruction, uint32_t status);
+
 enum board_access { BOARD_ACCESS_ALL, BOARD_ACCESS_READ, BOARD_ACCESS_NONE };
 
 /* Cortex-M3 and up: let the memory protection unit refuse what `access` does not allow. The image then ends with a line

@@ -59,7 +59,7 @@ static void write_hexadecimal(uint32_t value) {
   for (int shift = 28; shift >= 0; shift -= 4) board_write("0123456789abcdef"[value >> shift & 15]);
 }
 
-void board_fault(uint32_t address, uint32_t instruction, uint32_t status) {
+__attribute__((weak)) void board_fault(uint32_t address, uint32_t instruction, uint32_t status) {
   write_text("\nfault at");
   write_hexadecimal(address);
   write_text(", instruction");

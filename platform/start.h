@@ -13,7 +13,4 @@ void board_open(void);
 /* Ask the emulator's host. */
 int board_semihost(int operation, const void* parameters);
 
-/* Say what went wrong and end. */
-__attribute__((noreturn)) void board_fault(uint32_t address, uint32_t instruction, uint32_t status);
-
 #endif

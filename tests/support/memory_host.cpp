@@ -1,18 +1,13 @@
 #include "memory.h"
 
-#include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/mman.h>
 #include <unistd.h>
 
-#include <cstdio>
-
 namespace {
 
 void report(int) {
-  const auto test = testing::UnitTest::GetInstance()->current_test_info();
-  std::printf("%s:%d: %s.%s: this row faults\n", test->file(), row_line, test->test_suite_name(), test->name());
-  std::fflush(stdout);
+  print_faulting_row();
   _exit(1);
 }
 

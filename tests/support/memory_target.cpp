@@ -1,5 +1,7 @@
 #include "memory.h"
 
+#include <cinttypes>
+
 #include "board.h"
 
 namespace {
@@ -12,6 +14,14 @@ void close_pages_between() {
 }
 
 }  // namespace
+
+// In place of the platform's, which does not know of rows.
+void board_fault(uint32_t address, uint32_t instruction, uint32_t status) {
+  print_faulting_row();
+  std::printf("fault at %#" PRIx32 ", instruction %#" PRIx32 ", status %#" PRIx32 "\n", address, instruction, status);
+  std::fflush(stdout);
+  board_exit(70);
+}
 
 // Of the unit's eight areas five are the closed pages between, and one lies at null. The last two pages get none, and
 // can always be written.
