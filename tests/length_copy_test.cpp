@@ -32,6 +32,7 @@ TYPED_TEST(Copy, StopsAtTheTerminatorOrTheBound) {
   });
   row(nullptr, greatest, u"", u"");
   row(u""_u, 0, nullptr, u"");
+  row(u"", 4, u"", u"");
   row(u"h"_u, 1, u"", u"h"_u);
   row(u"hello"_u, 5, u"hell", u"hello"_u);
   row(u"\x80\x100\xFFFF", greatest, u"\x80\x100\xFFFF", u"\x80\x100\xFFFF");
