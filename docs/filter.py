@@ -38,6 +38,15 @@ def cost(name, twin):
     return [kept["gcc size"], kept["gcc speed"], kept["stack: gcc size"], kept["stack: gcc speed"], size, speed]
 
 
+def proof(name):
+    """What is proved of an operation, and what it rests on."""
+    found = re.search(rf"^\| `{name}` \| (.*) \| (.*) \| (.*) \|$", (ROOT / "docs/proofs.md").read_text(), re.M)
+    size, speed = (re.sub(", open:.*", "", each) for each in found.groups()[:2])
+    said = f"{size}, built for size or for speed" if size == speed else f"built for size {size}, for speed {speed}"
+    rests = f", resting on {found[3]}" if found[3] != "–" else ""
+    return f"For strings of any length: {said}{rests}; see @ref md_docs_proofs "Proofs"."
+
+
 def paragraphs(text):
     """A comment as Markdown, which takes four blanks for code: a line that ends a sentence ends a paragraph."""
     return re.sub(r"(?<=\.)\n", "\n\n", re.sub(r"^ +", "", text, flags=re.M))
@@ -54,6 +63,7 @@ def operation(match):
     lines += ["Measured on a Cortex-M4, built by GCC for size and for speed; for n units of text."]
     lines += ["", "| | bytes: size | speed | stack: size | speed | instructions: size | speed |", "|---|" + "---|" * 6]
     lines += [f"| {twin} | " + " | ".join(cost(name, twin)) + " |" for twin in twins]
+    lines += ["", proof(name)]
     code, output = re.fullmatch(r"```cpp\n(.*?)```\n```text\n(.*?)```\n*", EXAMPLES[name], re.S).groups()
     lines += ["", "@code{.cpp}", code.rstrip(), "@endcode", "prints", "@code{.unparsed}", output.rstrip(), "@endcode"]
     lines += ["", f'<a href="quvex.html#{name}">See it at work, unit by unit</a>']
