@@ -115,10 +115,10 @@ class Woven(amalgamate.Translation):
         return f"/*@ {contract} */\n{text}" if contract else text
 
     def contract(self, function, values=(), width=None):
-        if function.name in self.annotations.contracts:
-            return self.filled(self.annotations.contracts[function.name], function, values, width)
         if function.scope:  # it forwards to an export
             return self.contract(self.functions[None, re.search(r"QUVEX_\d{6}", function.body)[0]][0])
+        if function.name in self.annotations.contracts:
+            return self.filled(self.annotations.contracts[function.name], function, values, width)
         called = re.search(r"(\w+)(?:<((?:[^<>]|\{[^}]*\})*)>)?\((.*)\);\s*\}\Z", function.body, re.S)
         if not function.name.startswith("QUVEX_") or not called or called[1] not in self.annotations.contracts:
             return None
