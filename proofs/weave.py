@@ -187,7 +187,7 @@ class Woven(amalgamate.Translation):
                           "#define __builtin_expect(value, expected) (value)", *compiler,
                           *self.vocabulary(self.annotations.uses.get(stem, ["text"])), *called.values(), *bodies])
         text = re.sub(r"^ *QUVEX_(UNROLL\(\d+\)|ROLLED)\n", "", text, flags=re.M)
-        return for_pointers(text), functions, exports, list(called)
+        return for_frama_c(text), functions, exports, list(called)
 
 
 def statement(text):
@@ -200,6 +200,7 @@ def without_annotations(text):
     return re.sub(r"/\*@.*?\*/", "", text, flags=re.S)
 
 
-def for_pointers(text):
-    """Pointers to const units are pointers to units: the provers compare only pointers of one type."""
-    return re.sub(r"\bconst (quvex_\w+)\*", r"\1*", text)
+def for_frama_c(text):
+    """Pointers to const units are pointers to units, since the provers compare only pointers of one type; and `set` is a
+    word of ACSL."""
+    return re.sub(r"\bset\b", "charset", re.sub(r"\bconst (quvex_\w+)\*", r"\1*", text))
