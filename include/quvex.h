@@ -9,8 +9,8 @@
       how far it reads.
     - Twins: the narrow operation stands first, its wide twin below it. They behave alike, unit for unit.
     - Lengths, positions, sizes and counts are in units of the string's own width, never in bytes. No string, and no
-      result, is longer than 2147483647 or takes up more than half of the address space, as with any object of C: with
-      32-bit addresses, a wide string and its terminator are at most 2^30 - 1 units.
+      result, is longer than 2147483647 or takes up half of the address space, as with any object of C: with 32-bit
+      addresses, a string and its terminator are at most 2^31 - 1 narrow or 2^30 - 1 wide units.
     - Alignment: as C asks, so that the address of a wide unit is even.
     - Size: how many units a destination can hold, terminator included. Count: how many units are taken from a source.
       Both are signed: 2^31 or more arrives as a negative number and acts as one.

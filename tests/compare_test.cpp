@@ -23,7 +23,7 @@ TYPED_TEST(Compare, TellsTheOrderAndThePlaceWithinACount) {
   row(u"abd"_u, u"abc"_u, greatest, 3, 3);
   row(u"ab", u"abc"_u, greatest, -3, -3);
   row(run + u"b", run + u"c", greatest, -301, -301);
-  for (int i = 1; i < 8; ++i) {  // in each place of an unrolled loop
+  for (int i = 0; i < 8; ++i) {  // in each place of an unrolled loop
     row(run.substr(0, i) + u"A", run.substr(0, i) + u"B", greatest, -i - 1, -i - 1);
     row(run.substr(0, i) + u"b", run.substr(0, i) + u"a", greatest, i + 1, i + 1);
   }

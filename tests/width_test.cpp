@@ -26,6 +26,7 @@ TEST(Widen, KeepsTheNumberOfEachUnitWithinASize) {
   });
   row(nullptr, 9, u"");
   row(u""_u, 0, u"");
+  row(u"", 4, u"");
   row(u"abc"_u, 3, u"ab");
   row(u"\x80\xFF", greatest, u"\x80\xFF");
 }
