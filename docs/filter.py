@@ -44,7 +44,7 @@ def proof(name):
     size, speed = (re.sub(", open:.*", "", each) for each in found.groups()[:2])
     said = f"{size}, built for size or for speed" if size == speed else f"built for size {size}, for speed {speed}"
     rests = f", resting on {found[3]}" if found[3] != "–" else ""
-    return f"For strings of any length: {said}{rests}; see @ref md_docs_proofs "Proofs"."
+    return f'For strings of any length: {said}{rests}; see @ref md_docs_proofs "Proofs".'
 
 
 def paragraphs(text):

@@ -24,8 +24,9 @@ TYPED_TEST(Compare, TellsTheOrderAndThePlaceWithinACount) {
   row(u"ab", u"abc"_u, greatest, -3, -3);
   row(run + u"b", run + u"c", greatest, -301, -301);
   for (int i = 0; i < 8; ++i) {  // in each place of an unrolled loop
-    row(run.substr(0, i) + u"A", run.substr(0, i) + u"B", greatest, -i - 1, -i - 1);
-    row(run.substr(0, i) + u"b", run.substr(0, i) + u"a", greatest, i + 1, i + 1);
+    const auto same = run.substr(0, static_cast<size_t>(i));
+    row(same + u"A", same + u"B", greatest, -i - 1, -i - 1);
+    row(same + u"b", same + u"a", greatest, i + 1, i + 1);
   }
   row(u"_"_u, u"A"_u, greatest, 1, -1);
   row(u"\x80"_u, u"\x7F"_u, greatest, 1, 1);
