@@ -43,7 +43,7 @@ def proof(name):
     found = re.search(rf"^\| `{name}` \| (.*) \| (.*) \| (.*) \|$", (ROOT / "docs/proofs.md").read_text(), re.M)
     size, speed = (re.sub(", open:.*", "", each) for each in found.groups()[:2])
     said = f"{size}, built for size or for speed" if size == speed else f"built for size {size}, for speed {speed}"
-    rests = f", resting on {found[3]}" if found[3] != "–" else ""
+    rests = f", resting on {found[3]}" if found[3] != "–" and size == "proved" else ""
     return f'For strings of any length: {said}{rests}; see @ref md_docs_proofs "Proofs".'
 
 
