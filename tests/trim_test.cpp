@@ -13,5 +13,6 @@ TYPED_TEST(Trim, StripsASetFromBothEnds) {
   row(u" a ", nullptr, 3, u" a ");
   row(u"jaA", u"bcdefghijka", 1, u"A\0A");
   row(u"", u" ", 0, u"");
+  row(u"a", u"", 1, u"a");
   row(u"\x120\x100 \x120", u"\x200\x120", 2, u"\x100 \0\0");
 }
