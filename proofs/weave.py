@@ -3,6 +3,8 @@
 The C is what scripts/amalgamate writes; the annotations are those of proofs/*.acsl, whose sections are
 
     function NAME        the contract of a function or template of src/, or of an export that calls none
+    operation NAME is F  the export of that readable name promises what F does: a template of src/, its parameters of
+                         template, and arguments in the words of the header; without a line, the template of that name
     bits NAME            likewise, proved by a question about bit vectors (bits.py)
     before LINE          what stands before this line of it: the annotation of a loop, an assertion
     after LINE           what stands after it; `before #2 LINE` means the second such line
@@ -11,13 +13,15 @@ The C is what scripts/amalgamate writes; the annotations are those of proofs/*.a
     lowered OLD          a statement that is proved in another form, which follows, with the reason above
 
 each followed by its indented text. In a text, Unit and the parameters of a template stand for what they are in the
-instance, and @@ for its width. A vocabulary that says Unit is there for both widths. An export has the contract of the
-template that it calls, with its own arguments in it. A line that the source no longer has is an error.
+instance, and @@ for its width. A vocabulary that says Unit is there for both widths. A line that the source no longer
+has is an error.
 """
 import importlib.machinery
 import importlib.util
+import json
 import pathlib
 import re
+import subprocess
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 
@@ -32,12 +36,15 @@ def script(name):
 
 amalgamate = script("amalgamate")
 Failure, WIDTHS = amalgamate.Failure, amalgamate.WIDTHS
+# Of each link name: the readable name of the operation, and the names of its parameters, as the header has them.
+HEADER = {link["link"]: (each["name"], [name for _, name in link["parameters"]])
+          for each in json.loads(subprocess.check_output([ROOT / "scripts/operations", "--json"])) for link in each["links"]}
 
 
 class Annotations:
     def __init__(self, folder=ROOT / "proofs"):
         self.contracts, self.places, self.vocabulary, self.uses, self.lowered = {}, {}, {}, {}, {}
-        self.bits = set()
+        self.bits, self.operations = set(), {}
         for path in sorted(folder.glob("*.acsl")):
             function = text = None
             for number, line in enumerate(path.read_text().splitlines(), 1):
@@ -49,6 +56,9 @@ class Annotations:
                     continue
                 if line.startswith("uses "):
                     self.uses[path.stem] = line.split()[1:]
+                    continue
+                if found := re.fullmatch(r"operation (\w+) is (.*)", line):
+                    self.operations[found[1]] = found[2]
                     continue
                 text = []
                 if found := re.fullmatch(r"(function|bits) (\w+)", line):
@@ -119,14 +129,18 @@ class Woven(amalgamate.Translation):
             return self.contract(self.functions[None, re.search(r"QUVEX_\d{6}", function.body)[0]][0])
         if function.name in self.annotations.contracts:
             return self.filled(self.annotations.contracts[function.name], function, values, width)
-        called = re.search(r"(\w+)(?:<((?:[^<>]|\{[^}]*\})*)>)?\((.*)\);\s*\}\Z", function.body, re.S)
-        if not function.name.startswith("QUVEX_") or not called or called[1] not in self.annotations.contracts:
+        if not function.name.startswith("QUVEX_"):
+            return None
+        name, words = HEADER[function.name]
+        if [re.search(r"\w+$", parameter)[0] for parameter in function.parameters] != words:
+            raise Failure(f"{function.name}: the header calls the parameters {', '.join(words)}")
+        called = re.fullmatch(r"(\w+)(?:<(.*)>)?\((.*)\)", self.annotations.operations.get(name, f"{name}({', '.join(words)})"))
+        if called[1] not in self.annotations.contracts:
             return None
         target = self.functions[None, called[1]][0]
-        given = amalgamate.arguments(called[3])
         width = next((width for width, unit in WIDTHS.items() if unit in ", ".join(function.parameters)), None)
         text = self.filled(self.annotations.contracts[called[1]], target, amalgamate.arguments(called[2] or ""), width)
-        for parameter, argument in zip(target.parameters, given + target.defaults[len(given):]):
+        for parameter, argument in zip(target.parameters, amalgamate.arguments(called[3]), strict=True):
             text = re.sub(rf"(?<![\\\w]){re.search(r'[A-Za-z_]+$', parameter)[0]}\b", argument, text)
         return text
 
