@@ -9,7 +9,8 @@ The C is what scripts/amalgamate writes; the annotations are those of proofs/*.a
     before LINE          what stands before this line of it: the annotation of a loop, an assertion
     after LINE           what stands after it; `before #2 LINE` means the second such line
     uses WORD ...        the vocabularies of the family that the file is named after
-    vocabulary WORD      definitions; `vocabulary WORD of OTHER` needs those of OTHER
+    vocabulary WORD      definitions; `vocabulary WORD of OTHER` needs those of OTHER. One that calls itself has a line
+                         `measure NAME = EXPRESSION`: what is less in each such call and never below zero in one
     lowered OLD          a statement that is proved in another form, which follows, with the reason above
 
 each followed by its indented text. In a text, Unit and the parameters of a template stand for what they are in the
@@ -164,7 +165,7 @@ class Woven(amalgamate.Translation):
 
         for word in words:
             need(word)
-        for text in ("\n".join(lines) for lines in done):
+        for text in (with_measures("\n".join(lines)) for lines in done):
             if re.search(r"\bUnit\b|@@", text):
                 for width, unit in WIDTHS.items():
                     yield "/*@ " + re.sub(r"\bUnit\b", unit, text).replace("@@", width) + " */\n"
@@ -202,6 +203,48 @@ class Woven(amalgamate.Translation):
                           *self.vocabulary(self.annotations.uses.get(stem, ["text"])), *called.values(), *bodies])
         text = re.sub(r"^ *QUVEX_(UNROLL\(\d+\)|ROLLED)\n", "", text, flags=re.M)
         return for_frama_c(text), functions, exports, list(called)
+
+
+def with_measures(text):
+    """Definitions, with a lemma in place of each measure: that what is defined by recursion comes to an end."""
+    measures = {}
+
+    def taken(found):
+        measures[found[1]] = found[2]
+        return ""
+
+    text = re.sub(r"^measure (\w+) = (.*)\n", taken, text + "\n", flags=re.M)
+    for kind, name, label, parameters, body in re.findall(r"^(logic [\w*]+|predicate) (\w+)(\{L\})?\(([^)]*)\)\s*= ([^;]*);", text, re.M):
+        names = re.findall(r"(\w+)(?:,|$)", parameters)
+        for number, (conditions, given) in enumerate(calls(body, name), 1):
+            if name not in measures:
+                raise Failure(f"{name} calls itself and has no measure")
+            less = re.sub(r"\w+", lambda found: f"({given[names.index(found[0])]})" if found[0] in names else found[0], measures[name])  # noqa: B023
+            width = "_@@" if "Unit" in parameters else ""
+            text += f"check lemma {name}_ends_{number}{width}{label}: \\forall {parameters};\n" + \
+                f"{' && '.join(f'({each})' for each in conditions)} ==> 0 <= {measures[name]} && {less} < {measures[name]};\n"
+    return text.rstrip("\n")
+
+
+def calls(text, name):
+    """The calls of a function in an expression: on what conditions each is made, and with what."""
+    depths = [0]
+    for each in text:
+        depths.append(depths[-1] + (each in "([") - (each in ")]"))
+    if text.startswith("(") and 0 not in depths[1:-1]:
+        yield from calls(text[1:-1], name)
+    elif asked := next((at for at, each in enumerate(text) if each == "?" and not depths[at]), None):
+        ended, open_ones = asked, 1
+        while open_ones:
+            ended += 1
+            open_ones += (text[ended] == "?" and not depths[ended]) - (text[ended] == ":" and not depths[ended])
+        for sign, part in (("", text[asked + 1:ended]), ("!", text[ended + 1:])):
+            for conditions, given in calls(part.strip(), name):
+                yield [f"{sign}({text[:asked].strip()})", *conditions], given
+    else:
+        for found in re.finditer(rf"\b{name}(?:\{{L\}})?\(", text):
+            end = next(at for at in range(found.end(), len(text) + 1) if depths[at] < depths[found.end()])
+            yield [], amalgamate.arguments(text[found.end():end - 1])
 
 
 def statement(text):
